@@ -1,0 +1,4 @@
+#pragma once
+
+// TimeBoundsCompareLess is defined with the array it orders.
+#include <Orvik/DataModel/MediaAssets/TimeBoundsArray.h>
