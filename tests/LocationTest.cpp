@@ -1,0 +1,104 @@
+#include <Orvik/DataModel/MediaAssets/DaxContentTrackLocation.h>
+#include <Orvik/DataModel/MediaAssets/DaxProtectLocation.h>
+#include <Orvik/DataModel/MediaAssets/FileLocation.h>
+#include <Orvik/DataModel/MediaAssets/ZanLocation.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+using namespace Orvik::DataModel::MediaAssets;
+
+TEST(LocationEquality, KindsDifferEvenWithTheSameUriText)
+{
+    FileLocation file;
+    file.Uri(URI("120/A7F3"));
+    const ZanLocation clip(ZanServerId(120), "A7F3");
+    ASSERT_EQ(file.Uri(), clip.Uri());
+    EXPECT_NE(file, clip);
+    EXPECT_NE(clip, file);
+
+    DaxProtectLocation protectedItem;
+    protectedItem.Uri(URI("storage://S1/P2/T3"));
+    DaxContentTrackLocation track;
+    ASSERT_TRUE(track.InitFromUri("storage://S1/P2/T3"));
+    EXPECT_NE(protectedItem, track);
+    EXPECT_NE(track, protectedItem);
+}
+
+TEST(FileLocationEquality, ComparesEveryField)
+{
+    FileLocation left;
+    left.Name("clip.mxf");
+    left.Size(1024);
+    left.LastAccessDate(100);
+    auto right = left.Clone();
+    EXPECT_EQ(left, *right);
+    static_cast<FileLocation&>(*right).LastAccessDate(101);
+    EXPECT_NE(left, *right);
+}
+
+TEST(LocationClone, IsEqualDistinctAndIndependent)
+{
+    const ZanLocation source(ZanServerId(120), "A7F3");
+    const auto clone = source.Clone();
+    EXPECT_NE(clone.get(), &source);
+    EXPECT_EQ(*clone, source);
+    EXPECT_EQ(clone->GetType(), Location::ZanLocation);
+    static_cast<ZanLocation&>(*clone).SequenceId("B000");
+    EXPECT_EQ(source.SequenceId(), "A7F3");
+    EXPECT_NE(*clone, source);
+}
+
+TEST(ZanLocationUri, IsSerialSlashSequenceAsGiven)
+{
+    EXPECT_EQ(ZanLocation(ZanServerId(120), "A7F3").Uri().Value(), "120/A7F3");
+    EXPECT_EQ(ZanLocation().Uri().Value(), "0/");
+    EXPECT_EQ(ZanLocation(ZanServerId(-10), "A").Uri().Value(), "-10/A");
+    EXPECT_EQ(ZanLocation(ZanServerId(10), "a/b").Uri().Value(), "10/a/b");
+}
+
+TEST(DaxContentTrackLocationUri, ReadsBackOnlyTheExactForm)
+{
+    for (const char* text : {"storage://S1/P2/T3", "storage:///P2/T3", "storage:////"}) {
+        SCOPED_TRACE(text);
+        DaxContentTrackLocation location;
+        EXPECT_TRUE(location.InitFromUri(text));
+        EXPECT_EQ(location.Uri().Value(), text);
+    }
+    DaxContentTrackLocation location;
+    ASSERT_TRUE(location.InitFromUri("storage://S1/P2/T3"));
+    EXPECT_EQ(location.ServerId(), Identifier("S1"));
+    EXPECT_EQ(location.ContentTrackId(), Identifier("T3"));
+    for (const char* text : {"storage:/S1/P2/T3", "storage:///S1/P2/T3", "storage://S1/P2", "storage://S1/P2/T3/",
+                             "STORAGE://S1/P2/T3", "xstorage://S1/P2/T3", ""}) {
+        SCOPED_TRACE(text);
+        EXPECT_FALSE(location.InitFromUri(text));
+        EXPECT_EQ(location.Uri().Value(), "storage://S1/P2/T3") << "a refused text changes nothing";
+    }
+    location.PartitionId(Identifier("P/2"));
+    DaxContentTrackLocation readBack;
+    EXPECT_FALSE(readBack.InitFromUri(location.Uri().Value()));
+}
+
+TEST(DaxProtectLocationEquality, ServerCountsBesideTheUri)
+{
+    DaxProtectLocation left;
+    left.Uri(URI("any form at all"));
+    left.ServerId(Identifier("S1"));
+    DaxProtectLocation right = left;
+    EXPECT_EQ(left, right);
+    right.ServerId(Identifier("S2"));
+    EXPECT_NE(left, right);
+}
+
+TEST(LocationType, ConvertsWithFileLocationAsFallback)
+{
+    bool failed = false;
+    EXPECT_EQ(Location::ToType("ZanLocation", failed), Location::ZanLocation);
+    EXPECT_FALSE(failed);
+    EXPECT_EQ(Location::ToType("zanlocation", failed), Location::FileLocation);
+    EXPECT_TRUE(failed);
+    EXPECT_EQ(Location::ToString(Location::DaxProtectLocation), "DaxProtectLocation");
+}

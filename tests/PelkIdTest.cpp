@@ -1,0 +1,119 @@
+#include <Orvik/DataModel/MediaAssets/Utils/PelkId.h>
+#include <Orvik/DataModel/MediaAssets/Utils/ZanServerId.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+using namespace Orvik::DataModel::MediaAssets;
+using ::testing::StrEq;
+using ::testing::ThrowsMessage;
+
+static_assert(PelkId::Empty() == PelkId(ZanServerId(), 255, 255, 255, '\0'), "the empty identifier is a compile-time constant");
+
+namespace {
+
+// What each parser makes of a text: the identifier printed by ToString(), or the error.
+struct Verdict {
+    const char* text;
+    const char* strict;    // FromUri: ToString() of the result, or the exception message
+    const char* tolerant;  // TryParse: ToString() of the result, or nullptr for false
+    int serialNumber;      // what TryParse reports
+};
+
+constexpr Verdict kVerdicts[] = {
+    {"123", "123/0", nullptr, 0},                                       // no camera
+    {"023A/120", "023A/120", "023A/120", 120},                          // with server
+    {"103A", "Invalid uri '103A'.", nullptr, 0},                        // bank 0
+    {"123M", "Invalid uri '123M'.", nullptr, 0},                        // camera past L
+    {"123a", "Invalid uri '123a'.", nullptr, 0},                        // lower-case camera
+    {"123A/125", "Invalid server serial number '125'.", "123A/0", 125}, // not a multiple of 10
+    {"123A/120xyz", "123A/120", "123A/120", 120},                       // trailing text ignored
+    {"123AX120", "123A/0", nullptr, 0},                                 // text after the camera
+    {"12", "Invalid uri '12'.", nullptr, 0},                            // too short
+    {"1x3A", "Invalid uri '1x3A'.", nullptr, 0},                        // not a digit
+    {"103A/125", "Invalid server serial number '125'.", nullptr, 0},    // server checked before ranges
+    {"123A/ 120", "123A/120", nullptr, 0},                              // blank: stream extraction skips it
+    {"123A/-10", "Invalid server serial number '-10'.", nullptr, 0},    // sign
+    {"123A/0", "Invalid server serial number '0'.", "123A/0", 0},       // no server
+    {"123A/", "Invalid server serial number ''.", nullptr, 0},          // nothing after the slash
+    {"123A/99999999990", "Invalid server serial number '99999999990'.", nullptr, 0},  // overflow
+    {"123A", "123A/0", "123A/0", 0},
+    {"999L", "999L/0", "999L/0", 0},
+};
+
+std::string Strictly(const std::string& text)
+{
+    try {
+        return PelkId::FromUri(text).ToString();
+    } catch (const std::invalid_argument& error) {
+        return error.what();
+    }
+}
+
+}  // namespace
+
+TEST(PelkIdParsers, StrictAndTolerantFormsDisagreeOnlyWhereIntended)
+{
+    for (const auto& row : kVerdicts) {
+        SCOPED_TRACE(row.text);
+        EXPECT_EQ(Strictly(row.text), row.strict);
+        PelkId id;
+        int serialNumber = -1;
+        const bool accepted = PelkId::TryParse(row.text, id, serialNumber);
+        EXPECT_EQ(accepted, row.tolerant != nullptr);
+        if (accepted) {
+            EXPECT_EQ(id.ToString(), row.tolerant);
+        }
+        EXPECT_EQ(serialNumber, row.serialNumber);
+    }
+}
+
+TEST(PelkIdTryParse, FailureMayLeaveTheFieldsReadButNeverTheServer)
+{
+    PelkId id(ZanServerId(30), 1, 1, 1, 'B');
+    EXPECT_FALSE(PelkId::TryParse("456CX", id));
+    EXPECT_EQ(id.ToString(), "456C/30");
+}
+
+TEST(PelkIdText, WrapsUnsetAndOutOfRangeFieldsInEightBits)
+{
+    EXPECT_EQ(PelkId::Empty().ToString(), "////0");
+    EXPECT_TRUE(PelkId().IsEmpty());
+    EXPECT_EQ(PelkId(ZanServerId(120), 1, 2, 3, 'B').ToString(), "123B/120");
+    EXPECT_EQ(PelkId(1, 2, 3).ToShortString(), "123");
+    EXPECT_EQ(PelkId(ZanServerId(-10), 1, 2, 3).ToString(), "123/-10");
+    const PelkId wrapped(10, 2, 3, 'A');
+    EXPECT_EQ(wrapped.ToShortString(), ":23A");
+    EXPECT_FALSE(wrapped.IsValid());
+}
+
+TEST(PelkIdPosition, SplitsIntoPageBankAndRow)
+{
+    PelkId id(456, 'C');
+    EXPECT_EQ(id.Page(), 4);
+    EXPECT_EQ(id.Bank(), 5);
+    EXPECT_EQ(id.Row(), 6);
+    EXPECT_EQ(id.Position(), 456);
+    EXPECT_EQ(id.Channel(), 3);
+    EXPECT_EQ(id.Index(), 456 * 12 + 2);
+    EXPECT_NE(id, PelkId(456, 'D'));
+}
+
+TEST(ZanServerIdText, AcceptsOnlyValidSerialNumbersInDecimal)
+{
+    ZanServerId serverId(70);
+    EXPECT_TRUE(ZanServerId::TryParse("120", serverId));
+    EXPECT_EQ(serverId.SerialNumber(), 120);
+    for (const char* text : {"", "0", "125", "-10", " 120", "120 ", "12a", "99999999990"}) {
+        SCOPED_TRACE(text);
+        EXPECT_FALSE(ZanServerId::TryParse(text, serverId));
+        EXPECT_EQ(serverId.SerialNumber(), 120);
+        EXPECT_THAT([&] { ZanServerId::Parse(text); },
+                    ThrowsMessage<std::invalid_argument>(
+                        StrEq(std::string("Invalid server serial number '") + text + "'.")));
+    }
+    EXPECT_EQ(ZanServerId("40").ToString(), "40");
+}
