@@ -1,0 +1,56 @@
+#include <Orvik/DataModel/MediaAssets/MediaResource.h>
+
+#include <utility>
+
+namespace Orvik::DataModel::MediaAssets {
+
+MediaResource::MediaResource() : MediaResource(Identifier::Empty()) {}
+
+MediaResource::MediaResource(const MediaResourceId& id)
+    : id(id), metadata(std::make_shared<MetadataProfileDictionary>())
+{
+}
+
+bool MediaResource::operator==(const MediaResource& other) const
+{
+    if (id != other.id || name != other.name || generalFormat != other.generalFormat
+        || streams.size() != other.streams.size())
+        return false;
+    for (size_t i = 0; i < streams.size(); ++i)
+        if (streams[i].Id() != other.streams[i].Id())
+            return false;
+    return timebounds == other.timebounds && creationDate == other.creationDate
+        && modificationDate == other.modificationDate && *metadata == *other.metadata;
+}
+
+MediaResource MediaResource::Clone() const
+{
+    MediaResource copy;
+    copy.id = id;
+    copy.name = name;
+    copy.generalFormat = generalFormat;
+    copy.timebounds = timebounds;
+    copy.creationDate = creationDate;
+    copy.modificationDate = modificationDate;
+    copy.metadata->DeepCopy(*metadata);
+    copy.streams.reserve(streams.size());
+    for (const auto& stream : streams) {
+        if (stream.Pointer())
+            copy.streams.emplace_back(std::make_shared<Stream>(stream->Clone()));
+        else
+            copy.streams.emplace_back(stream.Id());
+    }
+    return copy;
+}
+
+void MediaResource::Adopt(std::unique_ptr<Stream>&& stream)
+{
+    streams.emplace_back(std::move(stream));
+}
+
+void MediaResource::Add(const MediaResourceId& streamId)
+{
+    streams.emplace_back(streamId);
+}
+
+}  // namespace Orvik::DataModel::MediaAssets

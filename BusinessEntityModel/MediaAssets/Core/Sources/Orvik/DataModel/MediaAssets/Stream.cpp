@@ -1,0 +1,46 @@
+#include <Orvik/DataModel/MediaAssets/Stream.h>
+
+#include <Orvik/DataModel/MediaAssets/Essence.h>
+#include <Orvik/DataModel/MediaAssets/Location.h>
+
+#include <utility>
+
+namespace Orvik::DataModel::MediaAssets {
+
+Stream::Stream() : Stream(Identifier::Empty()) {}
+
+Stream::Stream(const StreamId& id) : metadata(std::make_shared<MetadataProfileDictionary>()), streamId(id) {}
+
+Stream::Stream(const Stream& other) : Stream(other.Clone())
+{
+    ObjectId(other.ObjectId());
+}
+
+Stream& Stream::operator=(const Stream& other)
+{
+    if (this != &other)
+        *this = Stream(other);
+    return *this;
+}
+
+bool Stream::operator==(const Stream& other) const
+{
+    return streamId == other.streamId && format == other.format && timebounds == other.timebounds
+        && *metadata == *other.metadata && essences == other.essences && locations == other.locations;
+}
+
+Stream Stream::Clone() const
+{
+    Stream copy;
+    copy.streamId = streamId;
+    copy.format = format;
+    copy.timebounds = timebounds;
+    copy.metadata->DeepCopy(*metadata);
+    for (const auto& essence : essences)
+        copy.essences.Add(essence->Clone());
+    for (const auto& location : locations)
+        copy.locations.Add(location->Clone());
+    return copy;
+}
+
+}  // namespace Orvik::DataModel::MediaAssets
