@@ -1,0 +1,154 @@
+#include <Orvik/DataModel/MediaAssets/MediaAsset.h>
+#include <Orvik/DataModel/MediaAssets/VideoEssence.h>
+
+#include "TestProfiles.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+
+using namespace Orvik::DataModel::MediaAssets;
+using ::testing::StrEq;
+using ::testing::ThrowsMessage;
+
+namespace {
+
+constexpr char kNoOperatorMetadata[] =
+    "Orvik::DataModel::MediaAssets::MediaAsset::PelkOperatorMetadata: No orvik.pelkoperator metadata available";
+
+// A fully populated asset: lineage by pointer, a track whose channel refers to a loaded stream,
+// a layout over that track, a loaded and an id-only resource, an annotation, an operator profile.
+class PopulatedAsset : public ::testing::Test {
+protected:
+    PopulatedAsset() : source(MediaAssetId("asset"))
+    {
+        source.ObjectId(11);
+        source.AssetType(AssetType::media);
+        source.Ancestor(MediaAssetReference(std::make_shared<MediaAsset>(MediaAssetId("ancestor"))));
+        source.Parent(MediaAssetReference(MediaAssetId("parent")));
+
+        auto stream = std::make_unique<Stream>(StreamId("stream"));
+        stream->Essences().Add(VideoEssence());
+        resource = std::make_shared<MediaResource>(MediaResourceId("r1"));
+        resource->Adopt(std::move(stream));
+        source.MediaResources().Insert(MediaResourceReference(resource));
+        source.MediaResources().Insert(MediaResourceReference(MediaResourceId("r0")));
+
+        track = std::make_shared<Track>(TrackId("t1"), "Program");
+        auto channel = std::make_shared<TrackChannelToRemove>();
+        channel->Stream(StreamReference(resource->Streams()[0].Pointer()));
+        track->Channels().push_back(channel);
+        source.Tracks().Insert(track);
+
+        TrackLayoutItem item(Identifier("i1"));
+        item.Tracks().Insert(track);
+        auto layout = std::make_shared<TrackLayout>(Identifier("l1"));
+        layout->TrackLayoutItems().Insert(item);
+        source.TrackLayouts().Insert(layout);
+
+        auto annotation = std::make_shared<Annotation>(AnnotationType::CuePoint, "goal");
+        annotation->Metadata().Set(std::make_shared<TestProfile>(1));
+        source.Annotations().push_back(annotation);
+        source.Metadata().Set(std::make_shared<PelkOperatorMetadataProfile>());
+    }
+
+    std::shared_ptr<MediaResource> resource;
+    std::shared_ptr<Track> track;
+    MediaAsset source;
+};
+
+}  // namespace
+
+TEST_F(PopulatedAsset, CloneIsEqualWithObjectIdUnset)
+{
+    const MediaAsset clone = source.Clone();
+    EXPECT_EQ(clone, source);
+    EXPECT_EQ(clone.ObjectId(), -1);
+}
+
+TEST_F(PopulatedAsset, CloneKeepsOnlyTheLineageIds)
+{
+    const MediaAsset clone = source.Clone();
+    EXPECT_EQ(clone.Ancestor().Id(), MediaAssetId("ancestor"));
+    EXPECT_EQ(clone.Ancestor().Pointer(), nullptr);
+    EXPECT_THAT([&] { (void)clone.Ancestor()->Id(); }, ThrowsMessage<std::runtime_error>(StrEq("null pointer")));
+    EXPECT_EQ(clone.Parent().Id(), MediaAssetId("parent"));
+}
+
+TEST_F(PopulatedAsset, CloneRebuildsTracksWithTheirOwnStreams)
+{
+    const MediaAsset clone = source.Clone();
+    const auto& clonedTrack = clone.Tracks().Front();
+    EXPECT_NE(clonedTrack, track);
+    EXPECT_EQ(clonedTrack->ObjectId(), -1);
+    const auto& channelStream = clonedTrack->Channels()[0]->Stream().Pointer();
+    EXPECT_NE(channelStream, resource->Streams()[0].Pointer());
+    const auto& clonedResource = clone.MediaResources()[1].Pointer();
+    EXPECT_NE(channelStream, clonedResource->Streams()[0].Pointer()) << "not shared with the cloned resource";
+}
+
+TEST_F(PopulatedAsset, CloneLayoutsStillPointAtTheSourceTracks)
+{
+    source.TrackLayouts().Front()->ObjectId(6);
+    MediaAsset clone = source.Clone();
+    const auto& layout = clone.TrackLayouts().Front();
+    EXPECT_NE(layout, source.TrackLayouts().Front());
+    EXPECT_EQ(layout->ObjectId(), 6);
+    EXPECT_EQ(layout->TrackLayoutItems().Front().Tracks().Front().lock(), track);
+
+    const MediaAsset other = clone;
+    track.reset();
+    source = MediaAsset();
+    EXPECT_THAT([&] { (void)(clone == other); },
+                ThrowsMessage<std::runtime_error>(
+                    StrEq("Orvik::DataModel::MediaAssets::CompareEqualWeakPointer: weak pointer object is expired")));
+}
+
+TEST_F(PopulatedAsset, CloneDeepCopiesResourcesAndAnnotations)
+{
+    const MediaAsset clone = source.Clone();
+    EXPECT_EQ(clone.MediaResources()[0].Pointer(), nullptr) << "id-only stays id-only";
+    EXPECT_NE(clone.MediaResources()[1].Pointer(), resource);
+    EXPECT_NE(clone.Annotations()[0], source.Annotations()[0]);
+    EXPECT_EQ(clone.Annotations()[0]->ObjectId(), -1);
+    EXPECT_NE(&clone.PelkOperatorMetadata(), &source.PelkOperatorMetadata());
+}
+
+TEST(MediaAssetEquality, LooksAtIdsOfReferencesAndNotAtObjectId)
+{
+    MediaAsset left(MediaAssetId("a"));
+    MediaAsset right(MediaAssetId("a"));
+    EXPECT_EQ(MediaAsset(), MediaAsset());
+    left.Ancestor(MediaAssetReference(std::make_shared<MediaAsset>(MediaAssetId("x"))));
+    right.Ancestor(MediaAssetReference(std::make_shared<MediaAsset>(MediaAssetId("x"))));
+    right.ObjectId(4);
+    EXPECT_EQ(left, right);
+    left.Annotations().push_back(nullptr);
+    right.Annotations().push_back(nullptr);
+    EXPECT_NE(left, right) << "null annotations are never equal";
+}
+
+TEST(MediaAssetDuration, IsZeroUntilTheOutBoundaryIsSet)
+{
+    MediaAsset asset;
+    EXPECT_EQ(asset.GetDuration().ToNanoseconds(), 0);
+    asset.InBoundary(TimeBoundary(TimePoint(100), false));
+    asset.OutBoundary(TimeBoundary(TimePoint(250), false));
+    EXPECT_EQ(asset.GetDuration().ToNanoseconds(), 150);
+}
+
+TEST(MediaAssetOperatorMetadata, IsFoundByClassUnderItsName)
+{
+    MediaAsset asset;
+    EXPECT_FALSE(asset.HasPelkOperatorMetadata());
+    EXPECT_THAT([&] { asset.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoOperatorMetadata)));
+    asset.Metadata().Set(std::make_shared<OtherProfile>());
+    EXPECT_FALSE(asset.HasPelkOperatorMetadata());
+    EXPECT_THROW(asset.PelkOperatorMetadata(), std::runtime_error);
+    auto profile = std::make_shared<PelkOperatorMetadataProfile>();
+    asset.Metadata().Set(profile);
+    EXPECT_TRUE(asset.HasPelkOperatorMetadata());
+    EXPECT_EQ(&asset.PelkOperatorMetadata(), profile.get());
+}

@@ -1,0 +1,92 @@
+#include <Orvik/DataModel/MediaAssets/AnglesPelkOperatorMetadataProfile.h>
+#include <Orvik/DataModel/MediaAssets/PelkOperatorMetadataProfile.h>
+
+#include "TestProfiles.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+#include <type_traits>
+
+using namespace Orvik::DataModel::MediaAssets;
+using ::testing::ElementsAre;
+using ::testing::StrEq;
+using ::testing::ThrowsMessage;
+
+static_assert(!std::is_copy_constructible_v<PelkOperatorMetadataProfile>, "profiles are copied through Clone");
+
+TEST(PelkOperatorKeyword, GrowsToTheIndexAndKeepsTheWholeText)
+{
+    PelkOperatorMetadataProfile profile;
+    profile.Keyword(3, "goal");
+    EXPECT_THAT(profile.Keywords(), ElementsAre("", "", "", "goal"));
+    profile.Keyword(0, "twenty characters!!!");
+    EXPECT_EQ(profile.Keyword(0), "twenty characters!!!");
+    EXPECT_EQ(profile.Keyword(9), "");
+}
+
+TEST(PelkOperatorKeyword, RefusesIndexesFrom2To31WithoutChange)
+{
+    PelkOperatorMetadataProfile profile;
+    profile.Keyword(0, "kept");
+    EXPECT_THAT([&] { profile.Keyword(4294967295u, "x"); },
+                ThrowsMessage<std::invalid_argument>(StrEq("Negative keyword index 4294967295.")));
+    EXPECT_THAT([&] { profile.Keyword(2147483648u, "x"); },
+                ThrowsMessage<std::invalid_argument>(StrEq("Negative keyword index 2147483648.")));
+    EXPECT_THAT(profile.Keywords(), ElementsAre("kept"));
+}
+
+TEST(PelkOperatorZan3Keywords, KeepsFiveSlotsOfTwelveCharacters)
+{
+    PelkOperatorMetadataProfile profile;
+    profile.Keywords("a;\xC3\xA9quipe nationale du;c;d;e;f", ";");
+    EXPECT_EQ(profile.KeywordsCount(), 6);
+    const auto slots = profile.Zan3Keywords();
+    EXPECT_EQ(slots[1], "\xC3\xA9quipe natio") << "twelve code points";
+    EXPECT_EQ(slots[4], "e");
+    EXPECT_TRUE(profile.AnyKeyword("f"));
+    profile.ClearKeywords();
+    EXPECT_FALSE(profile.AnyKeyword());
+}
+
+TEST(PelkOperatorEquality, IgnoresProtectionFlagsAndObjectIdButNotKeywordOrder)
+{
+    PelkOperatorMetadataProfile left(PelkId(ZanServerId(120), 1, 2, 3, 'B'));
+    left.Keyword(0, "a");
+    left.Keyword(1, "b");
+    const auto right = left.Clone();
+    auto& copy = static_cast<PelkOperatorMetadataProfile&>(*right);
+    EXPECT_TRUE(left.Equals(copy));
+    copy.UserProtected(true);
+    copy.PelkUIProtected(true);
+    copy.ObjectId(5);
+    EXPECT_TRUE(left.Equals(copy));
+    copy.Keyword(0, "b");
+    copy.Keyword(1, "a");
+    EXPECT_FALSE(left.Equals(copy));
+    EXPECT_EQ(left.PelkId().ToString(), "123B/120");
+}
+
+TEST(PelkOperatorEquality, ProfilesOfAnotherClassAreNeverEqual)
+{
+    const PelkOperatorMetadataProfile profile;
+    EXPECT_FALSE(profile.Equals(TestProfile(1)));
+    EXPECT_FALSE(profile.Equals(OtherProfile())) << "same name, another class";
+    EXPECT_FALSE(profile.Equals(AnglesPelkOperatorMetadataProfile()));
+    EXPECT_FALSE(AnglesPelkOperatorMetadataProfile().Equals(profile));
+    EXPECT_EQ(profile.ToString(), "orvik.pelkoperator");
+}
+
+TEST(PelkOperatorClone, IsEqualAndSharesNothing)
+{
+    PelkOperatorMetadataProfile source;
+    source.Keyword(0, "goal");
+    source.ObjectId(8);
+    const auto clone = source.Clone();
+    EXPECT_TRUE(clone->Equals(source));
+    EXPECT_EQ(static_cast<const PelkOperatorMetadataProfile&>(*clone).ObjectId(), 8);
+    source.Keyword(0, "miss");
+    EXPECT_FALSE(clone->Equals(source));
+}
