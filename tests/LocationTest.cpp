@@ -27,6 +27,22 @@ TEST(LocationEquality, KindsDifferEvenWithTheSameUriText)
     EXPECT_NE(track, protectedItem);
 }
 
+// A caller's class that names the clip otherwise than its fields do.
+class MirroredLocation : public ZanLocation {
+public:
+    using ZanLocation::ZanLocation;
+    URI Uri() const override { return URI("mirror/" + SequenceId()); }
+};
+
+TEST(LocationEquality, DerivedClassesAreComparedByTheirOwnUri)
+{
+    const ZanLocation clip(ZanServerId(120), "A7F3");
+    const MirroredLocation mirrored(ZanServerId(120), "A7F3");
+    EXPECT_NE(clip, mirrored) << "same fields, another Uri()";
+    EXPECT_NE(mirrored, clip);
+    EXPECT_EQ(mirrored, MirroredLocation(ZanServerId(120), "A7F3"));
+}
+
 TEST(FileLocationEquality, ComparesEveryField)
 {
     FileLocation left;

@@ -79,6 +79,28 @@ TEST(PelkOperatorEquality, ProfilesOfAnotherClassAreNeverEqual)
     EXPECT_EQ(profile.ToString(), "orvik.pelkoperator");
 }
 
+// Classes a caller derives from the profile: one renames it, one keeps its name.
+class RenamedProfile : public PelkOperatorMetadataProfile {
+public:
+    Orvik::DataModel::MediaAssets::FullyQualifiedName FullyQualifiedName() const override
+    {
+        return Orvik::DataModel::MediaAssets::FullyQualifiedName("studio.renamed");
+    }
+};
+class ExtendedProfile : public PelkOperatorMetadataProfile {};
+
+TEST(PelkOperatorEquality, DerivedClassesAreComparedByNameThenByTheirFields)
+{
+    const PelkOperatorMetadataProfile profile;
+    EXPECT_FALSE(profile.Equals(RenamedProfile()));
+    EXPECT_FALSE(RenamedProfile().Equals(profile));
+    EXPECT_TRUE(profile.Equals(ExtendedProfile()));
+    EXPECT_TRUE(ExtendedProfile().Equals(profile));
+    ExtendedProfile paged;
+    paged.Page(4);
+    EXPECT_FALSE(profile.Equals(paged));
+}
+
 TEST(PelkOperatorClone, IsEqualAndSharesNothing)
 {
     PelkOperatorMetadataProfile source;

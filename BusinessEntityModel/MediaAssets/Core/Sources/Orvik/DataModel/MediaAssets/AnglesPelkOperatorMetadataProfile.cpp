@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/AnglesPelkOperatorMetadataProfile.h>
 
+#include "ExactClass.h"
+
 namespace Orvik::DataModel::MediaAssets {
 
 AnglesPelkOperatorMetadataProfile::AnglesPelkOperatorMetadataProfile(const MediaAssets::PelkId& id)
@@ -31,9 +33,7 @@ std::shared_ptr<MetadataProfile> AnglesPelkOperatorMetadataProfile::Clone() cons
 
 bool AnglesPelkOperatorMetadataProfile::Equals(const MetadataProfile& other) const
 {
-    if (FullyQualifiedName() != other.FullyQualifiedName())
-        return false;
-    const auto* rhs = dynamic_cast<const AnglesPelkOperatorMetadataProfile*>(&other);
+    const auto* rhs = detail::ComparableProfile(*this, other);
     return rhs != nullptr && serverId.SerialNumber() == rhs->serverId.SerialNumber() && page == rhs->page
         && bank == rhs->bank && clip == rhs->clip;
 }

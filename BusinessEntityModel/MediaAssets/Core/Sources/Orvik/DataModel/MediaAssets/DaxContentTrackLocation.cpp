@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/DaxContentTrackLocation.h>
 
+#include "ExactClass.h"
+
 #include <regex>
 
 namespace Orvik::DataModel::MediaAssets {
@@ -36,7 +38,9 @@ URI DaxContentTrackLocation::Uri() const
 
 bool DaxContentTrackLocation::operator==(const Location& other) const
 {
-    if (!Location::operator==(other))  // false for every other kind
+    // Uri() is made of fields compared below: the base comparison (false for every other kind)
+    // decides nothing between two objects of exactly this class.
+    if (!detail::BothExactly<DaxContentTrackLocation, Location>(*this, other) && !Location::operator==(other))
         return false;
     const auto& rhs = static_cast<const DaxContentTrackLocation&>(other);
     return daxServerId == rhs.daxServerId && daxPartitionId == rhs.daxPartitionId

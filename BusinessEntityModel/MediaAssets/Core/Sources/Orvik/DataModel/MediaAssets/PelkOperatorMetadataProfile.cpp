@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/PelkOperatorMetadataProfile.h>
 
+#include "ExactClass.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -65,10 +67,8 @@ std::shared_ptr<MetadataProfile> PelkOperatorMetadataProfile::Clone() const
 
 bool PelkOperatorMetadataProfile::Equals(const MetadataProfile& other) const
 {
-    if (FullyQualifiedName() != other.FullyQualifiedName())
-        return false;
     // Another profile class may share the name; it is never equal.
-    const auto* rhs = dynamic_cast<const PelkOperatorMetadataProfile*>(&other);
+    const auto* rhs = detail::ComparableProfile(*this, other);
     if (rhs == nullptr)
         return false;
     return serverId.SerialNumber() == rhs->serverId.SerialNumber() && page == rhs->page && bank == rhs->bank
