@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -104,6 +106,9 @@ public:
     void Copy(InputIterator first, InputIterator last)
     {
         Collection copies;
+        using Category = typename std::iterator_traits<InputIterator>::iterator_category;
+        if constexpr (std::is_base_of_v<std::forward_iterator_tag, Category>)
+            copies.reserve(static_cast<size_t>(std::distance(first, last)));
         for (; first != last; ++first)
             copies.push_back((*first)->Clone());
         collection.swap(copies);

@@ -36,10 +36,8 @@ Stream Stream::Clone() const
     copy.format = format;
     copy.timebounds = timebounds;
     copy.metadata->DeepCopy(*metadata);
-    for (const auto& essence : essences)
-        copy.essences.Add(essence->Clone());
-    for (const auto& location : locations)
-        copy.locations.Add(location->Clone());
+    copy.essences.Copy(essences);
+    copy.locations.Copy(locations);
     return copy;
 }
 
