@@ -1,21 +1,20 @@
 #include "AllocationCounter.h"
 
-#include <atomic>
 #include <cstdlib>
 #include <new>
 
 namespace {
-std::atomic<uint64_t> allocations{0};
+thread_local uint64_t allocations = 0;
 }  // namespace
 
 uint64_t OrvikBenchmarks::AllocationCount()
 {
-    return allocations.load(std::memory_order_relaxed);
+    return allocations;
 }
 
 void* operator new(std::size_t size)
 {
-    allocations.fetch_add(1, std::memory_order_relaxed);
+    ++allocations;
     if (void* memory = std::malloc(size == 0 ? 1 : size))
         return memory;
     throw std::bad_alloc();
