@@ -1,4 +1,5 @@
-// Sorted-vector inserts, enumeration conversions and the text parsers, with allocations per
+// Sorted-vector inserts, enumeration conversions (the two largest tables one way at a time, and
+// every enumeration's round trip over all its values) and the text parsers, with allocations per
 // operation (enumeration conversions must make none).
 
 #include "AllocationCounter.h"
@@ -77,6 +78,44 @@ void UnknownTextToEnumeration(benchmark::State& state)
     MeasureAllocations(state, [&] { benchmark::DoNotOptimize(ToWrapperFormat(text, failed)); });
 }
 BENCHMARK(UnknownTextToEnumeration);
+
+// Every value of an enumeration to its text and back, the values taken in turn.
+template <typename Print, typename Parse>
+void EnumerationRoundTrip(benchmark::State& state, Print print, Parse parse, int32_t count)
+{
+    int32_t value = 0;
+    bool failed = false;
+    MeasureAllocations(state, [&] {
+        benchmark::DoNotOptimize(parse(print(value), failed));
+        value = value + 1 == count ? 0 : value + 1;
+    });
+}
+
+#define ROUND_TRIP(name, E, print, parse, count)                                                     \
+    BENCHMARK_CAPTURE(                                                                               \
+        EnumerationRoundTrip, name,                                                                  \
+        [](int32_t value) -> decltype(auto) { return print(static_cast<E>(value)); },                \
+        [](const std::string& text, bool& failed) { return parse(text, failed); }, count)
+#define ENUMERATION(E, count) ROUND_TRIP(E, E, ToString, To##E, count)
+ENUMERATION(AnnotationType, 2);
+ENUMERATION(ArchiveStatus, 3);
+ENUMERATION(AssetType, 3);
+ENUMERATION(AudioCodingFormat, 9);
+ENUMERATION(BitRateMode, 3);
+ENUMERATION(Boxing, 9);
+ENUMERATION(ChromaSubSampling, 8);
+ENUMERATION(ColorSpace, 9);
+ENUMERATION(FieldOrdering, 3);
+ENUMERATION(FillAndKeyType, 3);
+ENUMERATION(ResourceFormat, 2);
+ENUMERATION(ScanMode, 3);
+ENUMERATION(TimeCodeStandard, 4);
+ENUMERATION(TimecodePrimary, 3);
+ENUMERATION(UserTimecodeType, 3);
+ENUMERATION(VideoCodingFormat, 54);
+ENUMERATION(WrapperFormat, 36);
+ROUND_TRIP(EssenceType, Essence::Type, Essence::ToString, Essence::ToType, 3);
+ROUND_TRIP(LocationType, Location::Type, Location::ToString, Location::ToType, 4);
 
 void TimeCodeStringConstruction(benchmark::State& state)
 {
