@@ -57,7 +57,7 @@ std::optional<std::string> MutateMetadata(MetadataProfileDictionary& dictionary,
     const auto copy = dictionary.Values().front()->Clone();
     dictionary.Set(copy);
     if (auto* angles = dynamic_cast<AnglesPelkOperatorMetadataProfile*>(copy.get())) {
-        angles->Clip(angles->Clip() + 1);
+        angles->Clip(angles->Clip() ^ 1);
         return entry + ".clip";
     }
     auto& profile = dynamic_cast<PelkOperatorMetadataProfile&>(*copy);
@@ -68,7 +68,7 @@ std::optional<std::string> MutateMetadata(MetadataProfileDictionary& dictionary,
         profile.ObjectId(profile.ObjectId() + 1);
         return std::nullopt;
     case 1:
-        profile.Rating(profile.Rating() + 1);
+        profile.Rating(profile.Rating() ^ 1);
         return entry + ".rating";
     case 2:
         profile.Keyword(static_cast<size_t>(profile.KeywordsCount()), "new");
