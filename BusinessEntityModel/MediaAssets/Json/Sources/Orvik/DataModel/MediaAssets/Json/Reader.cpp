@@ -86,7 +86,10 @@ std::string_view Reader::String(value v)
 std::string_view Reader::RawObject(value v)
 {
     auto object = Take(v.get_object(), "an object", &v);
-    return Take(object.raw_json(), "an object");
+    std::string_view raw = Take(object.raw_json(), "an object");
+    // The parser's text runs on to the next token; the whitespace before it is not the object's.
+    const size_t end = raw.find_last_not_of(" \t\n\r");
+    return raw.substr(0, end == std::string_view::npos ? 0 : end + 1);
 }
 
 bool Reader::IsString(value v)
