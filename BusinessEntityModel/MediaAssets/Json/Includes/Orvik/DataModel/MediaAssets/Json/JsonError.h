@@ -12,8 +12,8 @@ namespace Orvik::DataModel::MediaAssets::Json {
 /// layout item showing a track that is not the asset's).
 ///
 /// Path() is the JSON pointer of the offending value ("/mediaResources/2/pointer/streams/0"; the
-/// empty text is the whole document). The message is that path, ": " and what was expected, for
-/// instance "/name: expected a string, found a number".
+/// empty text is the whole document). The message is that path ("(root)" for the whole
+/// document), ": " and what was expected, for instance "/name: expected a string, found 17".
 class JsonError : public std::runtime_error {
 public:
     JsonError(const std::string& path, const std::string& expected);

@@ -24,7 +24,8 @@ std::unique_ptr<simdjson::ondemand::parser> TakeParser()
     return parser ? std::move(parser) : std::make_unique<simdjson::ondemand::parser>();
 }
 
-const char* Found(value& v)
+// What the document holds where something else was expected: the number itself, or its kind.
+std::string Found(value& v)
 {
     simdjson::ondemand::json_type type{};
     if (v.type().get(type) != simdjson::SUCCESS)
@@ -34,8 +35,10 @@ const char* Found(value& v)
         return "an array";
     case simdjson::ondemand::json_type::object:
         return "an object";
-    case simdjson::ondemand::json_type::number:
-        return "a number";
+    case simdjson::ondemand::json_type::number: {
+        const std::string_view token = v.raw_json_token();
+        return std::string(token.substr(0, token.find_last_not_of(" \t\n\r") + 1));
+    }
     case simdjson::ondemand::json_type::string:
         return "a string";
     case simdjson::ondemand::json_type::boolean:
@@ -103,8 +106,7 @@ constexpr auto kSchemaMembers = MemberNames("name", "version");
 
 std::string Reader::SchemaName()
 {
-    auto root = Take(document.get_object(), "an object");
-    Rest rest{Take(root.begin(), "an object"), Take(root.end(), "an object")};
+    Rest rest = OpenRoot();
     const value schema = First(rest, "schema");
     const PathSegment segment(path, "schema");
     std::string name;
@@ -115,6 +117,12 @@ std::string Reader::SchemaName()
             Int64(member);
     });
     return name;
+}
+
+Reader::Rest Reader::OpenRoot()
+{
+    value root = Take(document.get_value(), "a JSON value");
+    return Open(root);
 }
 
 void Reader::CheckSchema(value v)
@@ -162,10 +170,8 @@ void Reader::Fail(const std::string& expected) const
 void Reader::Fail(simdjson::error_code error, std::string_view expected, value* v) const
 {
     std::string message = "expected " + std::string(expected) + ", found ";
-    if (error == simdjson::INCORRECT_TYPE && v != nullptr)
+    if ((error == simdjson::INCORRECT_TYPE || error == simdjson::NUMBER_OUT_OF_RANGE) && v != nullptr)
         message += Found(*v);
-    else if (error == simdjson::NUMBER_OUT_OF_RANGE)
-        message += "a number out of range";
     else if (error == simdjson::DEPTH_ERROR)
         message += "nesting deeper than " + std::to_string(simdjson::DEFAULT_MAX_DEPTH) + " levels";
     else

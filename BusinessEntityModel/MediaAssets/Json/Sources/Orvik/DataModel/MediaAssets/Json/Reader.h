@@ -56,8 +56,7 @@ public:
     template <typename Read>
     void Document(Read&& read)
     {
-        auto root = Take(document.get_object(), "an object");
-        Rest rest{Take(root.begin(), "an object"), Take(root.end(), "an object")};
+        Rest rest = OpenRoot();
         CheckSchema(First(rest, "schema"));
         ++rest.it;
         read(rest);
@@ -223,6 +222,8 @@ private:
 
     [[noreturn]] void Fail(simdjson::error_code error, std::string_view expected, value* v) const;
     void CheckSchema(value v);
+    /// The members of the top-level object.
+    Rest OpenRoot();
     /// The value of the first member of `rest`, which must be named `name`; the caller moves past
     /// it once the value is read.
     value First(Rest& rest, std::string_view name);
