@@ -233,7 +233,9 @@ void Write(Writer& w, const MetadataProfileDictionary& dictionary)
     const auto profiles = dictionary.Values();
     for (size_t index = 0; index < names.size(); ++index) {
         const std::string& name = names[index].Value();
-        w.Member(name, [&] { WriteProfile(w, name, profiles[index]); });
+        w.CheckedKey(name);
+        const PathSegment segment(w.CurrentPath(), name);
+        WriteProfile(w, name, profiles[index]);
     }
     w.EndObject();
 }

@@ -5,6 +5,7 @@
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
+#include <simdjson.h>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -29,27 +30,20 @@ void Writer::StartObject()
     json.EndObject();
 }
 
-void Writer::Key(std::string_view name)
+void Writer::CheckedKey(std::string_view name)
 {
-    if (!json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()))) {
+    if (!simdjson::validate_utf8(name.data(), name.size())) {
         const PathSegment segment(path, name);
         Fail(kNotUtf8);
     }
+    Key(name);
 }
 
 void Writer::String(std::string_view text)
 {
-    if (!json.String(text.data(), static_cast<rapidjson::SizeType>(text.size())))
+    if (!simdjson::validate_utf8(text.data(), text.size()))
         Fail(kNotUtf8);
-}
-
-void Writer::String(std::string_view name, std::string_view text)
-{
-    Key(name);
-    if (!json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()))) {
-        const PathSegment segment(path, name);
-        Fail(kNotUtf8);
-    }
+    json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
 
 void Writer::Raw(std::string_view jsonText)
