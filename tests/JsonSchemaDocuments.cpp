@@ -1,6 +1,9 @@
 // Writes the documents whose validity against docs/schema is checked by validate_json_schema.py:
-// each hand-written document of tests/data read and written again, compact and indented.
+// each hand-written document of tests/data read and written again, compact and indented, and
+// the documents of generated objects of every kind.
 //   json_schema_documents <tests/data> <output folder>
+
+#include <ArbitraryObjects.h>
 
 #include <Orvik/DataModel/MediaAssets.h>
 #include <Orvik/DataModel/MediaAssets/Json.h>
@@ -53,6 +56,21 @@ void Rewrite(const fs::path& file, const fs::path& folder)
         });
 }
 
+void WriteGenerated(const fs::path& folder, uint64_t seeds)
+{
+    for (uint64_t seed = 0; seed < seeds; ++seed) {
+        Orvik::Testing::ArbitraryObjects objects(seed);
+        const std::string suffix = "-" + std::to_string(seed) + ".json";
+        Save(folder / ("generated-asset" + suffix), Json::ToJson(objects.MediaAsset()));
+        Save(folder / ("generated-resource" + suffix), Json::ToJson(objects.MediaResource()));
+        Save(folder / ("generated-stream" + suffix), Json::ToJson(objects.Stream()));
+        Save(folder / ("generated-group" + suffix), Json::ToJson(*objects.MediaAssetGroup()));
+        Save(folder / ("generated-angles-group" + suffix), Json::ToJson(*objects.AnglesMediaAssetGroup()));
+        Save(folder / ("generated-profile" + suffix), Json::ToJson(objects.PelkOperatorProfile()));
+        Save(folder / ("generated-angles-profile" + suffix), Json::ToJson(objects.AnglesPelkOperatorProfile()));
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -68,6 +86,7 @@ int main(int argc, char** argv)
         for (const auto& entry : fs::directory_iterator(argv[1]))
             if (entry.path().extension() == ".json")
                 Rewrite(entry.path(), folder);
+        WriteGenerated(folder, 50);
     } catch (const std::exception& error) {
         std::cerr << "json_schema_documents: " << error.what() << "\n";
         return 1;
