@@ -10,7 +10,18 @@
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
+
 constexpr char kNotUtf8[] = "expected text in UTF-8, found invalid bytes";
+
+// Most texts of the model are short and ASCII; only the others go through the full check.
+bool IsUtf8(std::string_view text)
+{
+    for (const char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return simdjson::validate_utf8(text.data(), text.size());
+    return true;
+}
+
 }  // namespace
 
 Writer::Writer(std::string_view schemaName) : buffer(nullptr, 64 * 1024), json(buffer), schemaName(schemaName) {}
@@ -32,7 +43,7 @@ void Writer::StartObject()
 
 void Writer::CheckedKey(std::string_view name)
 {
-    if (!simdjson::validate_utf8(name.data(), name.size())) {
+    if (!IsUtf8(name)) {
         const PathSegment segment(path, name);
         Fail(kNotUtf8);
     }
@@ -41,7 +52,7 @@ void Writer::CheckedKey(std::string_view name)
 
 void Writer::String(std::string_view text)
 {
-    if (!simdjson::validate_utf8(text.data(), text.size()))
+    if (!IsUtf8(text))
         Fail(kNotUtf8);
     json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
