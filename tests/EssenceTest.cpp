@@ -136,14 +136,3 @@ TEST(EssenceClone, DuplicateChannelAtTheLowerBoundIsRefused)
                 ThrowsMessage<std::runtime_error>(
                     StrEq("Orvik::DataModel::MediaAssets::SortedVector::Insert: item already present in the collection")));
 }
-
-TEST(EssenceType, ConvertsWithAudioAsFallback)
-{
-    bool failed = false;
-    EXPECT_EQ(Essence::ToType("Video", failed), Essence::Video);
-    EXPECT_FALSE(failed);
-    EXPECT_EQ(Essence::ToType("audio", failed), Essence::Audio);
-    EXPECT_TRUE(failed);
-    EXPECT_EQ(Essence::ToString(Essence::Data), "Data");
-    EXPECT_EQ(Essence::ToString(static_cast<Essence::Type>(9)), "Audio");
-}

@@ -108,13 +108,3 @@ TEST(DaxProtectLocationEquality, ServerCountsBesideTheUri)
     right.ServerId(Identifier("S2"));
     EXPECT_NE(left, right);
 }
-
-TEST(LocationType, ConvertsWithFileLocationAsFallback)
-{
-    bool failed = false;
-    EXPECT_EQ(Location::ToType("ZanLocation", failed), Location::ZanLocation);
-    EXPECT_FALSE(failed);
-    EXPECT_EQ(Location::ToType("zanlocation", failed), Location::FileLocation);
-    EXPECT_TRUE(failed);
-    EXPECT_EQ(Location::ToString(Location::DaxProtectLocation), "DaxProtectLocation");
-}
