@@ -41,7 +41,7 @@ public:
     static constexpr int8_t MinRow = 0;
     static constexpr int8_t MaxRow = 9;
 
-    /// Empty().
+    /// The empty identifier: equal to Empty(), not valid, printed "////0".
     constexpr PelkId() = default;
     explicit PelkId(int position) { Position(position); }
     PelkId(int position, char camera) : camera(camera) { Position(position); }
@@ -58,7 +58,7 @@ public:
           row(static_cast<uint8_t>(row)), camera(camera)
     {
     }
-    /// FromUri(text).
+    /// Parsed strictly, with FromUri's exceptions; use TryParse() for text that may be malformed.
     explicit PelkId(const std::string& text) : PelkId(FromUri(text)) {}
 
     static constexpr const PelkId& Empty();
