@@ -112,3 +112,17 @@ TEST(PelkOperatorClone, IsEqualAndSharesNothing)
     source.Keyword(0, "miss");
     EXPECT_FALSE(clone->Equals(source));
 }
+
+TEST(AnglesPelkOperatorEquality, ComparesServerPageBankAndClip)
+{
+    const AnglesPelkOperatorMetadataProfile profile(PelkId(ZanServerId(10), 1, 2, 3));
+    EXPECT_TRUE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(10), 1, 2, 3))));
+    EXPECT_FALSE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(20), 1, 2, 3))));
+    EXPECT_FALSE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(10), 1, 2, 4))));
+}
+
+TEST(AnglesPelkOperatorClone, IsEqualToItsSource)
+{
+    const AnglesPelkOperatorMetadataProfile source(PelkId(ZanServerId(10), 1, 2, 3));
+    EXPECT_TRUE(source.Clone()->Equals(source));
+}
