@@ -52,6 +52,7 @@ TEST(MetadataProfileDictionaryTypedAccess, FindsOnlyTheRequestedClass)
     dictionary.Set(std::make_shared<TestProfile>(2));
     EXPECT_EQ(dictionary.Size(), 1u) << "Set replaces the profile of the same name";
     EXPECT_EQ(dictionary.Get<TestProfile>()->value, 2);
+    EXPECT_EQ(&dictionary.At(TestProfile::StaticFullyQualifiedName()), dictionary.Get<TestProfile>().get());
 }
 
 TEST(MetadataProfileDictionaryErrors, NameTheMissingProfileAndRefuseNull)

@@ -51,6 +51,17 @@ TEST(PelkOperatorZan3Keywords, KeepsFiveSlotsOfTwelveCharacters)
     EXPECT_FALSE(profile.AnyKeyword());
 }
 
+TEST(PelkOperatorKeywordsText, SplitsAtTheSeparatorWhichEmptyKeepsTheTextWhole)
+{
+    PelkOperatorMetadataProfile profile;
+    profile.Keywords("a;;b", ";");
+    EXPECT_THAT(profile.Keywords(), ElementsAre("a", "", "b"));
+    profile.Keywords("a;b", "");
+    EXPECT_THAT(profile.Keywords(), ElementsAre("a;b"));
+    profile.Keywords("", ";");
+    EXPECT_TRUE(profile.Keywords().empty());
+}
+
 TEST(PelkOperatorEquality, IgnoresProtectionFlagsAndObjectIdButNotKeywordOrder)
 {
     PelkOperatorMetadataProfile left(PelkId(ZanServerId(120), 1, 2, 3, 'B'));
