@@ -43,6 +43,7 @@ public:
 
     /// The empty identifier: equal to Empty(), not valid, printed "////0".
     constexpr PelkId() = default;
+    /// Explicit: a bare number is not a clip code (`id == 456` would compile).
     explicit PelkId(int position) { Position(position); }
     PelkId(int position, char camera) : camera(camera) { Position(position); }
     PelkId(int page, int bank, int row) : PelkId(ZanServerId(), page, bank, row, '\0') {}
@@ -59,6 +60,7 @@ public:
     {
     }
     /// Parsed strictly, with FromUri's exceptions; use TryParse() for text that may be malformed.
+    /// Explicit: it may throw, which should not happen behind a conversion.
     explicit PelkId(const std::string& text) : PelkId(FromUri(text)) {}
 
     static constexpr const PelkId& Empty();
