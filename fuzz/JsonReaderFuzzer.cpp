@@ -13,10 +13,7 @@ using namespace Orvik::DataModel::MediaAssets;
 namespace {
 
 bool Equal(const std::shared_ptr<MediaAssetGroup>& a, const std::shared_ptr<MediaAssetGroup>& b) { return *a == *b; }
-bool Equal(const AnglesPelkOperatorMetadataProfile& a, const AnglesPelkOperatorMetadataProfile& b)
-{
-    return a.Equals(b);
-}
+bool Equal(const AnglesPelkOperatorMetadataProfile& a, const AnglesPelkOperatorMetadataProfile& b) { return a.Equals(b); }
 template <typename T>
 bool Equal(const T& a, const T& b)
 {

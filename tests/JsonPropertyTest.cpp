@@ -57,8 +57,9 @@ TEST(JsonRoundTrip, GeneratedGroupsAndProfilesComeBackEqualAndWriteTheSameBytes)
 {
     const auto writeGroup = [](const std::shared_ptr<MediaAssetGroup>& group) { return Json::ToJson(*group); };
     const auto equalGroups = [](const std::shared_ptr<MediaAssetGroup>& a, const std::shared_ptr<MediaAssetGroup>& b) {
-        return *a == *b && (dynamic_cast<AnglesMediaAssetGroup*>(a.get()) == nullptr)
-                               == (dynamic_cast<AnglesMediaAssetGroup*>(b.get()) == nullptr);
+        return *a == *b
+            && (dynamic_cast<AnglesMediaAssetGroup*>(a.get()) == nullptr)
+            == (dynamic_cast<AnglesMediaAssetGroup*>(b.get()) == nullptr);
     };
     for (uint64_t seed = 0; seed < kSeeds; ++seed) {
         SCOPED_TRACE(seed);
@@ -86,7 +87,7 @@ size_t ChannelsOnResourceStreams(const MediaAsset& asset)
         for (const auto& channel : track->Channels())
             if (channel->Stream().Pointer()
                 && std::find(resourceStreams.begin(), resourceStreams.end(), channel->Stream().Pointer().get())
-                       != resourceStreams.end())
+                    != resourceStreams.end())
                 ++count;
     return count;
 }

@@ -19,10 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void Save(const fs::path& path, const std::string& document)
-{
-    std::ofstream(path, std::ios::binary) << document;
-}
+void Save(const fs::path& path, const std::string& document) { std::ofstream(path, std::ios::binary) << document; }
 
 // Both forms of the object that `text` describes, as `<stem>.compact.json` and `<stem>.indented.json`.
 template <typename T, typename Write>
@@ -51,9 +48,8 @@ void Rewrite(const fs::path& file, const fs::path& folder)
     else if (schema == "AnglesPelkOperatorMetadataProfile")
         SaveBoth<AnglesPelkOperatorMetadataProfile>(folder, stem, text, plain);
     else
-        SaveBoth<std::shared_ptr<MediaAssetGroup>>(folder, stem, text, [](const auto& group, Json::Layout layout) {
-            return Json::ToJson(*group, layout);
-        });
+        SaveBoth<std::shared_ptr<MediaAssetGroup>>(
+            folder, stem, text, [](const auto& group, Json::Layout layout) { return Json::ToJson(*group, layout); });
 }
 
 void WriteGenerated(const fs::path& folder, uint64_t seeds)

@@ -72,10 +72,10 @@ constexpr int kMaxProfileDepth = 100;
 constexpr char kPelkKind[] = "PelkOperatorMetadataProfile";
 constexpr char kAnglesKind[] = "AnglesPelkOperatorMetadataProfile";
 
-constexpr auto kPelkMembers = MemberNames("objectId", "serverId", "page", "bank", "clip", "camera", "umId", "varId",
-                                          "rating", "archiveStatus", "userTimecodeType", "primaryTimecode",
-                                          "userTimecode", "todTimecode", "icon", "color", "fillAndKeyType",
-                                          "fillAndKeyMediaAssetId", "keywords", "userProtected", "pelkUIProtected");
+constexpr auto kPelkMembers =
+    MemberNames("objectId", "serverId", "page", "bank", "clip", "camera", "umId", "varId", "rating", "archiveStatus",
+                "userTimecodeType", "primaryTimecode", "userTimecode", "todTimecode", "icon", "color", "fillAndKeyType",
+                "fillAndKeyMediaAssetId", "keywords", "userProtected", "pelkUIProtected");
 constexpr auto kAnglesMembers = MemberNames("objectId", "serverId", "page", "bank", "clip");
 
 // Accepts one JSON object nested at most kMaxProfileDepth deep, with nothing after it.

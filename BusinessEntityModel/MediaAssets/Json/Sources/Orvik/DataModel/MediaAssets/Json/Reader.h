@@ -193,8 +193,8 @@ public:
         const std::string pointer(String(v));
         const auto found = shared.find(pointer);
         if (found == shared.end() || *found->second.type != typeid(T))
-            Fail("expected a JSON pointer to " + std::string(what) + " written earlier in the document, found \""
-                 + pointer + "\"");
+            Fail("expected a JSON pointer to " + std::string(what) + " written earlier in the document, found \"" + pointer
+                 + "\"");
         return std::static_pointer_cast<T>(found->second.object);
     }
 

@@ -57,10 +57,7 @@ void Writer::String(std::string_view text)
     json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
 
-void Writer::Raw(std::string_view jsonText)
-{
-    json.RawValue(jsonText.data(), jsonText.size(), rapidjson::kObjectType);
-}
+void Writer::Raw(std::string_view jsonText) { json.RawValue(jsonText.data(), jsonText.size(), rapidjson::kObjectType); }
 
 const std::string* Writer::PlaceOf(const void* object) const
 {
@@ -68,10 +65,7 @@ const std::string* Writer::PlaceOf(const void* object) const
     return found == written.end() ? nullptr : &found->second;
 }
 
-void Writer::Fail(const std::string& expected) const
-{
-    throw JsonError(path.ToString(), expected);
-}
+void Writer::Fail(const std::string& expected) const { throw JsonError(path.ToString(), expected); }
 
 std::string Writer::Finish(Layout layout) const
 {
