@@ -199,8 +199,6 @@ public:
     }
 
     [[noreturn]] void Fail(const std::string& expected) const;
-    /// Refuses the member `key` of the current object as met a second time.
-    [[noreturn]] void Duplicate(std::string_view key);
 
     Path& CurrentPath() { return path; }
 
@@ -229,6 +227,8 @@ private:
     value First(Rest& rest, std::string_view name);
     static size_t Find(const std::string_view* names, size_t count, size_t next, std::string_view key);
     [[noreturn]] void Unexpected(std::string_view key);
+    /// Refuses the member `key` of the current object as met a second time.
+    [[noreturn]] void Duplicate(std::string_view key);
     [[noreturn]] void Missing(std::string_view key) const;
 
     std::string_view schemaName;

@@ -27,15 +27,11 @@ public:
     /// Starts an object; the first one of the document opens with the "schema" member.
     void StartObject();
     void EndObject() { json.EndObject(); }
-    void StartArray() { json.StartArray(); }
-    void EndArray() { json.EndArray(); }
 
     /// A member name known to be valid UTF-8.
     void Key(std::string_view name) { json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size())); }
     /// A member name from the model; throws JsonError unless it is valid UTF-8.
     void CheckedKey(std::string_view name);
-    void Int(int64_t value) { json.Int64(value); }
-    void Bool(bool value) { json.Bool(value); }
     /// Throws JsonError at the current path unless `text` is valid UTF-8.
     void String(std::string_view text);
     /// A JSON value that is written as it stands (checked by the caller).
