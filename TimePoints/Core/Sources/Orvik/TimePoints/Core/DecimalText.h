@@ -42,11 +42,12 @@ inline bool ReadDigits(std::string_view text, size_t position, size_t count, int
 {
     if (position > text.size() || text.size() - position < count)
         return false;
+    const char* digit = text.data() + position;
     value = 0;
-    for (size_t i = position; i < position + count; ++i) {
-        if (text[i] < '0' || text[i] > '9')
+    for (const char* end = digit + count; digit != end; ++digit) {
+        if (*digit < '0' || *digit > '9')
             return false;
-        value = value * 10 + (text[i] - '0');
+        value = value * 10 + (*digit - '0');
     }
     return true;
 }

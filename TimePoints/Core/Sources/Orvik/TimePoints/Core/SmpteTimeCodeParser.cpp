@@ -58,7 +58,13 @@ const char* Read(std::string_view text, const Rate& rate, bool allowDate, TimeCo
             return reason;
         text.remove_prefix(kDateLength);
     }
-    const size_t frameDigits = static_cast<size_t>(detail::TimeCodeCounting(rate, false).FrameDigits());
+    // The separators stand at the same places whatever the rate, the frames' width depends on it.
+    bool known = false;
+    const bool isDrop = text.size() > 8 && IsDropFrame(Separators{text[2], text[5], text[8]}, known);
+    if (!known)
+        return kSyntax;
+    const detail::TimeCodeCounting counting(rate, isDrop);
+    const size_t frameDigits = static_cast<size_t>(counting.FrameDigits());
     int64_t hour = 0;
     int64_t minute = 0;
     int64_t second = 0;
@@ -66,12 +72,6 @@ const char* Read(std::string_view text, const Rate& rate, bool allowDate, TimeCo
     if (text.size() != 9 + frameDigits || !detail::ReadDigits(text, 0, 2, hour) || !detail::ReadDigits(text, 3, 2, minute)
         || !detail::ReadDigits(text, 6, 2, second) || !detail::ReadDigits(text, 9, frameDigits, frame))
         return kSyntax;
-    bool known = false;
-    const bool isDrop = IsDropFrame(Separators{text[2], text[5], text[8]}, known);
-    if (!known)
-        return kSyntax;
-
-    const detail::TimeCodeCounting counting(rate, isDrop);
     const detail::LabelFault fault = counting.Check(hour, minute, second, frame);
     if (fault != detail::LabelFault::None)
         return detail::Describe(fault);
