@@ -45,8 +45,8 @@ const char* Describe(LabelFault fault)
 }
 
 TimeCodeCounting::TimeCodeCounting(const Rate& rate, bool isDrop)
-    : nominal(CheckedNominal(rate)), dropped(isDrop ? nominal / 15 : 0), framesPerMinute(nominal * 60 - dropped),
-      framesPerTenMinutes(nominal * 600 - dropped * 9), dropFrameRate(!isDrop || IsDropFrameRate(rate))
+    : rate(rate), isDrop(isDrop), nominal(CheckedNominal(rate)), dropped(isDrop ? nominal / 15 : 0),
+      framesPerMinute(nominal * 60 - dropped), framesPerTenMinutes(nominal * 600 - dropped * 9)
 {
 }
 
@@ -84,8 +84,12 @@ Clock TimeCodeCounting::ToClock(int64_t totalSample) const
         if (rest > dropped)
             frames += dropped * ((rest - dropped) / framesPerMinute);
     }
-    return Clock{days, static_cast<int32_t>(frames / (nominal * 3600)), static_cast<int32_t>(frames / (nominal * 60) % 60),
-                 static_cast<int32_t>(frames / nominal % 60), static_cast<int32_t>(frames % nominal)};
+    // One division per field: every clock read goes through here.
+    const int64_t seconds = frames / nominal;
+    const int64_t minutes = seconds / 60;
+    const int64_t hours = minutes / 60;
+    return Clock{days, static_cast<int32_t>(hours), static_cast<int32_t>(minutes - hours * 60),
+                 static_cast<int32_t>(seconds - minutes * 60), static_cast<int32_t>(frames - seconds * nominal)};
 }
 
 bool TimeCodeCounting::ToSample(int64_t days, int64_t hour, int64_t minute, int64_t second, int64_t frame,

@@ -39,7 +39,7 @@ public:
     /// Digits of the largest frame number, at least two.
     int FrameDigits() const;
     /// False when drop-frame counting was asked for at a rate that has none.
-    bool HasDropFrameRate() const { return dropFrameRate; }
+    bool HasDropFrameRate() const { return !isDrop || IsDropFrameRate(rate); }
 
     /// The clock of `totalSample`; days are floored, so the clock of a negative count is that of
     /// the day before.
@@ -52,11 +52,12 @@ public:
     LabelFault Check(int64_t hour, int64_t minute, int64_t second, int64_t frame) const;
 
 private:
+    Rate rate;
+    bool isDrop;
     int64_t nominal;
     int64_t dropped;  // frame numbers skipped at the start of each minute not divisible by ten
     int64_t framesPerMinute;
     int64_t framesPerTenMinutes;
-    bool dropFrameRate;  // false when drop-frame counting is asked for at a rate that has none
 };
 
 }  // namespace Orvik::TimePoints::detail
