@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 
@@ -24,6 +25,12 @@ struct Counting {
     int nominal;  // frames of a displayed second
     const char* name;
 };
+
+// Names the case in test listings instead of its bytes.
+void PrintTo(const Counting& counting, std::ostream* out)
+{
+    *out << counting.name;
+}
 
 std::string Label(const Rate& rate, int64_t sample, bool isDrop)
 {
