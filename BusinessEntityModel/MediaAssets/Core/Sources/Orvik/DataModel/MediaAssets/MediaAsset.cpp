@@ -1,5 +1,9 @@
 #include <Orvik/DataModel/MediaAssets/MediaAsset.h>
 
+#include "CloneTargetOrKeepId.h"
+#include "EqualityVisitor.h"
+#include "ProfileOfClassOrThrow.h"
+
 #include <memory>
 #include <stdexcept>
 
@@ -14,18 +18,7 @@ constexpr char kNullAnnotation[] = "Orvik::DataModel::MediaAssets::MediaAsset::C
 
 bool MediaAsset::operator==(const MediaAsset& other) const
 {
-    if (id != other.id || assetType != other.assetType || ancestor.Id() != other.ancestor.Id()
-        || parent.Id() != other.parent.Id() || name != other.name || description != other.description
-        || physicalTimebounds != other.physicalTimebounds || creationDate != other.creationDate
-        || modificationDate != other.modificationDate || metadata != other.metadata || tracks != other.tracks
-        || trackLayouts != other.trackLayouts || mediaResources != other.mediaResources
-        || annotations.size() != other.annotations.size())
-        return false;
-    const MediaAssets::equal_to equal;
-    for (size_t i = 0; i < annotations.size(); ++i)
-        if (!equal(annotations[i], other.annotations[i]))
-            return false;
-    return true;
+    return detail::EqualInOrder(*this, other);
 }
 
 bool MediaAsset::HasPelkOperatorMetadata() const
@@ -35,18 +28,12 @@ bool MediaAsset::HasPelkOperatorMetadata() const
 
 PelkOperatorMetadataProfile& MediaAsset::PelkOperatorMetadata()
 {
-    const auto profile = metadata.Get<PelkOperatorMetadataProfile>();
-    if (!profile)
-        throw std::runtime_error(kNoOperatorMetadata);
-    return *profile;
+    return detail::ProfileOfClassOrThrow<PelkOperatorMetadataProfile>(metadata, kNoOperatorMetadata);
 }
 
 const PelkOperatorMetadataProfile& MediaAsset::PelkOperatorMetadata() const
 {
-    const auto profile = metadata.Get<PelkOperatorMetadataProfile>();
-    if (!profile)
-        throw std::runtime_error(kNoOperatorMetadata);
-    return *profile;
+    return detail::ProfileOfClassOrThrow<PelkOperatorMetadataProfile>(metadata, kNoOperatorMetadata);
 }
 
 MediaAssets::Duration MediaAsset::GetInOutDuration() const
@@ -72,12 +59,8 @@ MediaAsset MediaAsset::Clone() const
         copy.tracks.Insert(std::make_shared<Track>(track->Clone()));
     for (const auto& layout : trackLayouts)
         copy.trackLayouts.Insert(std::make_shared<TrackLayout>(*layout));
-    for (const auto& resource : mediaResources) {
-        if (resource.Pointer())
-            copy.mediaResources.Insert(MediaResourceReference(std::make_shared<MediaResource>(resource->Clone())));
-        else
-            copy.mediaResources.Insert(MediaResourceReference(resource.Id()));
-    }
+    for (const auto& resource : mediaResources)
+        copy.mediaResources.Insert(detail::CloneTargetOrKeepId(resource));
     copy.annotations.reserve(annotations.size());
     for (const auto& annotation : annotations) {
         if (!annotation)

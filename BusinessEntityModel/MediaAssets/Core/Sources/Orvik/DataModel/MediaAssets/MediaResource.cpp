@@ -1,5 +1,8 @@
 #include <Orvik/DataModel/MediaAssets/MediaResource.h>
 
+#include "CloneTargetOrKeepId.h"
+#include "EqualityVisitor.h"
+
 #include <utility>
 
 namespace Orvik::DataModel::MediaAssets {
@@ -13,14 +16,7 @@ MediaResource::MediaResource(const MediaResourceId& id)
 
 bool MediaResource::operator==(const MediaResource& other) const
 {
-    if (id != other.id || name != other.name || generalFormat != other.generalFormat
-        || streams.size() != other.streams.size())
-        return false;
-    for (size_t i = 0; i < streams.size(); ++i)
-        if (streams[i].Id() != other.streams[i].Id())
-            return false;
-    return timebounds == other.timebounds && creationDate == other.creationDate
-        && modificationDate == other.modificationDate && *metadata == *other.metadata;
+    return detail::EqualInOrder(*this, other);
 }
 
 MediaResource MediaResource::Clone() const
@@ -34,12 +30,8 @@ MediaResource MediaResource::Clone() const
     copy.modificationDate = modificationDate;
     copy.metadata->DeepCopy(*metadata);
     copy.streams.reserve(streams.size());
-    for (const auto& stream : streams) {
-        if (stream.Pointer())
-            copy.streams.emplace_back(std::make_shared<Stream>(stream->Clone()));
-        else
-            copy.streams.emplace_back(stream.Id());
-    }
+    for (const auto& stream : streams)
+        copy.streams.push_back(detail::CloneTargetOrKeepId(stream));
     return copy;
 }
 
