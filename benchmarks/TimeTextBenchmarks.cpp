@@ -90,8 +90,8 @@ void PlainTimePointParse(benchmark::State& state)
     MeasureAllocations(state, [&] {
         std::tm fields{};
         long fraction = 0;
-        std::sscanf(kIsoText.c_str(), "%4d-%2d-%2dT%2d:%2d:%2d.%9ldZ", &fields.tm_year, &fields.tm_mon,
-                    &fields.tm_mday, &fields.tm_hour, &fields.tm_min, &fields.tm_sec, &fraction);
+        std::sscanf(kIsoText.c_str(), "%4d-%2d-%2dT%2d:%2d:%2d.%9ldZ", &fields.tm_year, &fields.tm_mon, &fields.tm_mday,
+                    &fields.tm_hour, &fields.tm_min, &fields.tm_sec, &fraction);
         fields.tm_year -= 1900;
         fields.tm_mon -= 1;
         benchmark::DoNotOptimize(static_cast<int64_t>(timegm(&fields)) * 1000000000 + fraction);

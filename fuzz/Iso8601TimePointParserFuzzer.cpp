@@ -26,8 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         Check(!read, "Parse refuses only what TryParse refuses");
         // what() is a C string: a text with a zero byte shows up to that byte.
         const std::string prefix = "Invalid time point '" + text + "': ";
-        Check(std::strncmp(error.what(), prefix.c_str(), std::strlen(prefix.c_str())) == 0,
-              "the message names the text");
+        Check(std::strncmp(error.what(), prefix.c_str(), std::strlen(prefix.c_str())) == 0, "the message names the text");
     }
     if (read) {
         const auto [again, back] = parser.TryParse(formatter.Format(point));

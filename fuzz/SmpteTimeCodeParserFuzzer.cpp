@@ -16,9 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     if (size == 0)
         return 0;
-    static const Rate rates[] = {Rate(24, 1),       Rate(25, 1),       Rate(30, 1),        Rate(48, 1),
-                                 Rate(50, 1),       Rate(60, 1),       Rate(24000, 1001),  Rate(30000, 1001),
-                                 Rate(60000, 1001), Rate(120, 1),      Rate(120000, 1001), Rate(15, 2)};
+    static const Rate rates[] = {Rate(24, 1),       Rate(25, 1),  Rate(30, 1),        Rate(48, 1),
+                                 Rate(50, 1),       Rate(60, 1),  Rate(24000, 1001),  Rate(30000, 1001),
+                                 Rate(60000, 1001), Rate(120, 1), Rate(120000, 1001), Rate(15, 2)};
     const SmpteTimeCodeParser parser(rates[(data[0] & 0x7F) % 12], (data[0] & 0x80) != 0);
     const std::string text = Text(data + 1, size - 1);
 
@@ -30,8 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         Check(!read, "Parse refuses only what TryParse refuses");
         // what() is a C string: a text with a zero byte shows up to that byte.
         const std::string prefix = "Invalid timecode '" + text + "': ";
-        Check(std::strncmp(error.what(), prefix.c_str(), std::strlen(prefix.c_str())) == 0,
-              "the message names the text");
+        Check(std::strncmp(error.what(), prefix.c_str(), std::strlen(prefix.c_str())) == 0, "the message names the text");
     }
     if (read) {
         const std::string label = SmpteTimeCodeFormatter().Format(timeCode);

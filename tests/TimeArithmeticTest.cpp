@@ -36,10 +36,7 @@ void ExpectAll(std::initializer_list<Wrapped> rows)
     }
 }
 
-TimeBoundary At(int64_t nanoseconds)
-{
-    return TimeBoundary(TimePoint(nanoseconds), false);
-}
+TimeBoundary At(int64_t nanoseconds) { return TimeBoundary(TimePoint(nanoseconds), false); }
 
 }  // namespace
 
@@ -163,9 +160,9 @@ TEST(TimePointSamples, RefuseNumbersAndPointsOutsideSixtyFourBits)
     EXPECT_THAT([] { TimePoint(kMin).AlignWith(Rate(1, 1)); },
                 ThrowsMessage<std::out_of_range>(
                     StrEq("Orvik::TimePoints::TimePoint: the sample starts outside the 64-bit time line")));
-    EXPECT_THAT([] { TimePoint::MaxValue().GetSampleNumber(Rate(kMax, 1)); },
-                ThrowsMessage<std::out_of_range>(
-                    StrEq("Orvik::TimePoints::TimePoint: the sample number does not fit in 64 bits")));
+    EXPECT_THAT(
+        [] { TimePoint::MaxValue().GetSampleNumber(Rate(kMax, 1)); },
+        ThrowsMessage<std::out_of_range>(StrEq("Orvik::TimePoints::TimePoint: the sample number does not fit in 64 bits")));
     EXPECT_THAT([] { TimePoint::FromSampleNumber(0, Rate(1, 0)); },
                 ThrowsMessage<std::invalid_argument>(StrEq("Orvik::TimePoints::TimePoint: the rate must be positive")));
 }

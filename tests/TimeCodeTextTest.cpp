@@ -27,10 +27,7 @@ struct Counting {
 };
 
 // Names the case in test listings instead of its bytes.
-void PrintTo(const Counting& counting, std::ostream* out)
-{
-    *out << counting.name;
-}
+void PrintTo(const Counting& counting, std::ostream* out) { *out << counting.name; }
 
 std::string Label(const Rate& rate, int64_t sample, bool isDrop)
 {
@@ -92,14 +89,14 @@ TEST_P(TimeCodeDay, EveryFrameRoundTripsAndOnlySkippedLabelsAreRefused)
         << "the next day starts again";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    EachRate, TimeCodeDay,
-    ::testing::Values(Counting{Rate(24, 1), false, 24, "r24"}, Counting{Rate(25, 1), false, 25, "r25"},
-                      Counting{Rate(30, 1), false, 30, "r30"}, Counting{Rate(48, 1), false, 48, "r48"},
-                      Counting{Rate(50, 1), false, 50, "r50"}, Counting{Rate(60, 1), false, 60, "r60"},
-                      Counting{Rate(24000, 1001), false, 24, "r23_976"}, Counting{kNtsc30, true, 30, "r29_97Drop"},
-                      Counting{kNtsc60, true, 60, "r59_94Drop"}),
-    [](const ::testing::TestParamInfo<Counting>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(EachRate, TimeCodeDay,
+                         ::testing::Values(Counting{Rate(24, 1), false, 24, "r24"}, Counting{Rate(25, 1), false, 25, "r25"},
+                                           Counting{Rate(30, 1), false, 30, "r30"}, Counting{Rate(48, 1), false, 48, "r48"},
+                                           Counting{Rate(50, 1), false, 50, "r50"}, Counting{Rate(60, 1), false, 60, "r60"},
+                                           Counting{Rate(24000, 1001), false, 24, "r23_976"},
+                                           Counting{kNtsc30, true, 30, "r29_97Drop"},
+                                           Counting{kNtsc60, true, 60, "r59_94Drop"}),
+                         [](const ::testing::TestParamInfo<Counting>& info) { return std::string(info.param.name); });
 
 struct Boundary {
     const Rate& rate;
@@ -110,13 +107,13 @@ struct Boundary {
 TEST(TimeCodeDropFrame, LabelsAtTheDroppedPairsAndEachTenthMinute)
 {
     const Boundary boundaries[] = {
-        {kNtsc30, 1799, "00:00:59;29"},       {kNtsc30, 1800, "00:01:00;02"},  // first after a dropped pair
-        {kNtsc30, 3597, "00:01:59;29"},       {kNtsc30, 3598, "00:02:00;02"},
-        {kNtsc30, 16184, "00:09:00;02"},      {kNtsc30, 17981, "00:09:59;29"},
-        {kNtsc30, 17982, "00:10:00;00"},      {kNtsc30, 17983, "00:10:00;01"},  // tenth minute keeps them
+        {kNtsc30, 1799, "00:00:59;29"},         {kNtsc30, 1800, "00:01:00;02"},  // first after a dropped pair
+        {kNtsc30, 3597, "00:01:59;29"},         {kNtsc30, 3598, "00:02:00;02"},
+        {kNtsc30, 16184, "00:09:00;02"},        {kNtsc30, 17981, "00:09:59;29"},
+        {kNtsc30, 17982, "00:10:00;00"},        {kNtsc30, 17983, "00:10:00;01"},  // tenth minute keeps them
         {kNtsc30, 17982 + 1800, "00:11:00;02"}, {kNtsc30, 107892, "01:00:00;00"},
-        {kNtsc30, 2589407, "23:59:59;29"},    {kNtsc60, 3599, "00:00:59;59"},
-        {kNtsc60, 3600, "00:01:00;04"},       {kNtsc60, 35964, "00:10:00;00"},
+        {kNtsc30, 2589407, "23:59:59;29"},      {kNtsc60, 3599, "00:00:59;59"},
+        {kNtsc60, 3600, "00:01:00;04"},         {kNtsc60, 35964, "00:10:00;00"},
         {kNtsc60, 5178815, "23:59:59;59"},
     };
     const SmpteTimeCodeParser parsers[] = {SmpteTimeCodeParser(kNtsc30), SmpteTimeCodeParser(kNtsc60)};
@@ -138,7 +135,7 @@ TEST(TimeCodeParser, ReadsTheSeparatorVariantsSeenInPractice)
 {
     const SmpteTimeCodeParser parser(kNtsc30);
     const Variant variants[] = {
-        {"00:01:00:00", 1800, false}, {"00:01:00;02", 1800, true}, {"00;01;00;02", 1800, true},
+        {"00:01:00:00", 1800, false}, {"00:01:00;02", 1800, true},   {"00;01;00;02", 1800, true},
         {"00:01:00.02", 1800, true},  {"01:00:00;00", 107892, true},
     };
     for (const Variant& row : variants) {
@@ -183,9 +180,9 @@ TEST(TimeCodeParser, RefusesLabelsThatCannotExistNamingTextAndReason)
         SCOPED_TRACE(row.text);
         const SmpteTimeCodeParser parser(row.rate);
         EXPECT_FALSE(parser.TryParse(row.text).first);
-        EXPECT_THAT([&] { parser.Parse(row.text); },
-                    ThrowsMessage<std::invalid_argument>(
-                        StrEq(std::string("Invalid timecode '") + row.text + "': " + row.reason)));
+        EXPECT_THAT(
+            [&] { parser.Parse(row.text); },
+            ThrowsMessage<std::invalid_argument>(StrEq(std::string("Invalid timecode '") + row.text + "': " + row.reason)));
     }
 }
 
@@ -214,9 +211,9 @@ TEST(TimeCodeDate, IsWrittenInFrontAndReadOnlyWhereAllowed)
     EXPECT_FALSE(parser.Parse("10:00:00:01").HasDate());
     EXPECT_THAT([&] { parser.Parse("2026-02-29 00:00:00:00"); },
                 ThrowsMessage<std::invalid_argument>(StrEq("Invalid timecode '2026-02-29 00:00:00:00': no such day")));
-    EXPECT_THAT([&] { SmpteTimeCodeFormatter().Format(TimeCode(fps25, -719529 * 2160000LL, false, true)); },
-                ThrowsMessage<std::invalid_argument>(
-                    StrEq("Invalid timecode: the date must be a day of the years 0000 to 9999")));
+    EXPECT_THAT(
+        [&] { SmpteTimeCodeFormatter().Format(TimeCode(fps25, -719529 * 2160000LL, false, true)); },
+        ThrowsMessage<std::invalid_argument>(StrEq("Invalid timecode: the date must be a day of the years 0000 to 9999")));
     EXPECT_EQ(Label(fps25, -1, false), "23:59:59:24") << "without a date, the time of day";
 }
 
@@ -237,11 +234,10 @@ TEST(TimeCodeFromLabel, ChecksAsTheParserDoes)
     for (const auto& row : refusals) {
         SCOPED_TRACE(row.reason);
         EXPECT_THAT([&] { TimeCode(kNtsc30, row.hours, row.minutes, row.seconds, row.frames, row.isDrop); },
-                    ThrowsMessage<std::invalid_argument>(
-                        StrEq(std::string("Orvik::TimePoints::TimeCode: ") + row.reason)));
+                    ThrowsMessage<std::invalid_argument>(StrEq(std::string("Orvik::TimePoints::TimeCode: ") + row.reason)));
     }
     EXPECT_THAT([] { SmpteTimeCodeFormatter().Format(TimeCode(Rate(25, 1), 0, true, false)); },
-                ThrowsMessage<std::invalid_argument>(StrEq(
-                    "Invalid timecode: drop-frame counting needs 30000/1001 frames a second or a whole "
-                    "multiple of it")));
+                ThrowsMessage<std::invalid_argument>(
+                    StrEq("Invalid timecode: drop-frame counting needs 30000/1001 frames a second or a whole "
+                          "multiple of it")));
 }

@@ -147,12 +147,9 @@ TEST(DurationText, TimecodeFormCountsWholeFramesTowardZero)
         Duration duration;
         const char* text;
     } rows[] = {
-        {fps25, Duration::FromMilliseconds(1040), "00:00:01:01"},
-        {fps25, Duration::FromMilliseconds(1079), "00:00:01:01"},
-        {fps25, Duration::FromSeconds(-1), "-00:00:01:00"},
-        {fps25, Duration::FromMilliseconds(-39), "00:00:00:00"},
-        {fps25, Duration::FromMinutes(25 * 60), "25:00:00:00"},
-        {drop, Duration::FromMilliseconds(60060), "00:01:00;02"},
+        {fps25, Duration::FromMilliseconds(1040), "00:00:01:01"},  {fps25, Duration::FromMilliseconds(1079), "00:00:01:01"},
+        {fps25, Duration::FromSeconds(-1), "-00:00:01:00"},        {fps25, Duration::FromMilliseconds(-39), "00:00:00:00"},
+        {fps25, Duration::FromMinutes(25 * 60), "25:00:00:00"},    {drop, Duration::FromMilliseconds(60060), "00:01:00;02"},
         {drop, Duration::FromMilliseconds(600600), "00:10:00;18"},
     };
     for (const auto& row : rows) {

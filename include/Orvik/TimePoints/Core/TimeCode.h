@@ -29,8 +29,7 @@ public:
     constexpr TimeCode() = default;
     constexpr TimeCode(const TimePoints::Rate& rate, int64_t totalSample, bool isDrop, bool hasDate)
         : rate(rate), totalSample(totalSample), isDrop(isDrop), hasDate(hasDate)
-    {
-    }
+    {}
 
     /// The timecode of the label hours:minutes:seconds:frames of the first day (no date). The label
     /// must exist: hours 0 to 23, minutes and seconds 0 to 59, frames below the rate rounded up,
@@ -38,8 +37,7 @@ public:
     /// drop-frame counting skips (frames 0 and 1 of each minute not divisible by ten at
     /// 30000/1001, 0 to 3 at 60000/1001). Throws std::invalid_argument
     /// "Orvik::TimePoints::TimeCode: " followed by the reason ("minutes must be 0 to 59").
-    TimeCode(const TimePoints::Rate& rate, int32_t hours, int32_t minutes, int32_t seconds, int32_t frames,
-             bool isDrop);
+    TimeCode(const TimePoints::Rate& rate, int32_t hours, int32_t minutes, int32_t seconds, int32_t frames, bool isDrop);
 
     constexpr const TimePoints::Rate& Rate() const { return rate; }
     constexpr void Rate(const TimePoints::Rate& value) { rate = value; }

@@ -15,8 +15,7 @@ std::string ClockDurationFormatter::Format(const Duration& duration) const
 {
     const int64_t nanoseconds = duration.ToNanoseconds();
     // The magnitude in unsigned arithmetic, where that of the smallest value fits.
-    const uint64_t magnitude =
-        nanoseconds < 0 ? 0 - static_cast<uint64_t>(nanoseconds) : static_cast<uint64_t>(nanoseconds);
+    const uint64_t magnitude = nanoseconds < 0 ? 0 - static_cast<uint64_t>(nanoseconds) : static_cast<uint64_t>(nanoseconds);
     const uint64_t seconds = magnitude / kNanosecondsPerSecond;
 
     char text[32];  // "-2562047:47:16.854775808" at most

@@ -37,8 +37,8 @@ const char* ReadZone(std::string_view zone, int64_t& offsetSeconds)
         return nullptr;
     int64_t hours = 0;
     int64_t minutes = 0;
-    if (zone.size() != 6 || (zone[0] != '+' && zone[0] != '-') || !detail::ReadDigits(zone, 1, 2, hours)
-        || zone[3] != ':' || !detail::ReadDigits(zone, 4, 2, minutes))
+    if (zone.size() != 6 || (zone[0] != '+' && zone[0] != '-') || !detail::ReadDigits(zone, 1, 2, hours) || zone[3] != ':'
+        || !detail::ReadDigits(zone, 4, 2, minutes))
         return kSyntax;
     if (hours > 23 || minutes > 59)
         return kOffset;
@@ -63,9 +63,9 @@ const char* Read(std::string_view text, TimePoint& point)
     int64_t second = 0;
     if (!detail::ReadDigits(text, 0, 4, year) || !IsAt(text, 4, '-') || !detail::ReadDigits(text, 5, 2, month)
         || !IsAt(text, 7, '-') || !detail::ReadDigits(text, 8, 2, day)
-        || !(IsAt(text, 10, 'T') || IsAt(text, 10, 't') || IsAt(text, 10, ' '))
-        || !detail::ReadDigits(text, 11, 2, hour) || !IsAt(text, 13, ':') || !detail::ReadDigits(text, 14, 2, minute)
-        || !IsAt(text, 16, ':') || !detail::ReadDigits(text, 17, 2, second))
+        || !(IsAt(text, 10, 'T') || IsAt(text, 10, 't') || IsAt(text, 10, ' ')) || !detail::ReadDigits(text, 11, 2, hour)
+        || !IsAt(text, 13, ':') || !detail::ReadDigits(text, 14, 2, minute) || !IsAt(text, 16, ':')
+        || !detail::ReadDigits(text, 17, 2, second))
         return kSyntax;
 
     size_t position = kDateTimeLength;
@@ -109,10 +109,7 @@ TimePoint Iso8601TimePointParser::Parse(const std::string& text) const
     return point;
 }
 
-bool Iso8601TimePointParser::IsStringFormatValid(const std::string& text) const
-{
-    return TryParse(text).first;
-}
+bool Iso8601TimePointParser::IsStringFormatValid(const std::string& text) const { return TryParse(text).first; }
 
 std::pair<bool, TimePoint> Iso8601TimePointParser::TryParse(const std::string& text) const
 {

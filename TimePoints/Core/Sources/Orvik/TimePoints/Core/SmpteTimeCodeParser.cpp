@@ -39,8 +39,8 @@ const char* ReadDate(std::string_view text, int64_t& days)
     int64_t year = 0;
     int64_t month = 0;
     int64_t day = 0;
-    if (!detail::ReadDigits(text, 0, 4, year) || text[4] != '-' || !detail::ReadDigits(text, 5, 2, month)
-        || text[7] != '-' || !detail::ReadDigits(text, 8, 2, day) || text[10] != ' ')
+    if (!detail::ReadDigits(text, 0, 4, year) || text[4] != '-' || !detail::ReadDigits(text, 5, 2, month) || text[7] != '-'
+        || !detail::ReadDigits(text, 8, 2, day) || text[10] != ' ')
         return kSyntax;
     if (month < 1 || month > 12 || day < 1 || day > detail::DaysInMonth(year, static_cast<int32_t>(month)))
         return kNoSuchDay;
@@ -97,10 +97,7 @@ TimeCode SmpteTimeCodeParser::Parse(const std::string& text) const
     return timeCode;
 }
 
-bool SmpteTimeCodeParser::IsStringFormatValid(const std::string& text) const
-{
-    return TryParse(text).first;
-}
+bool SmpteTimeCodeParser::IsStringFormatValid(const std::string& text) const { return TryParse(text).first; }
 
 std::pair<bool, TimeCode> SmpteTimeCodeParser::TryParse(const std::string& text) const
 {

@@ -40,8 +40,7 @@ int64_t SampleOfLabel(const Rate& rate, int32_t hours, int32_t minutes, int32_t 
 TimeCode::TimeCode(const TimePoints::Rate& rate, int32_t hours, int32_t minutes, int32_t seconds, int32_t frames,
                    bool isDrop)
     : rate(rate), totalSample(SampleOfLabel(rate, hours, minutes, seconds, frames, isDrop)), isDrop(isDrop)
-{
-}
+{}
 
 int32_t TimeCode::Year() const { return static_cast<int32_t>(DateOf(*this).year); }
 int32_t TimeCode::Month() const { return DateOf(*this).month; }
@@ -57,14 +56,8 @@ bool TimeCode::IsCompatible(const TimeCode& other) const
     return rate == other.rate && isDrop == other.isDrop;
 }
 
-TimeCode TimeCode::Parse(const std::string& text, const TimeCodeParser& parser)
-{
-    return parser.Parse(text);
-}
+TimeCode TimeCode::Parse(const std::string& text, const TimeCodeParser& parser) { return parser.Parse(text); }
 
-std::string TimeCode::ToString(const TimeCodeFormatter& formatter) const
-{
-    return formatter.Format(*this);
-}
+std::string TimeCode::ToString(const TimeCodeFormatter& formatter) const { return formatter.Format(*this); }
 
 }  // namespace Orvik::TimePoints

@@ -47,8 +47,7 @@ const char* Describe(LabelFault fault)
 TimeCodeCounting::TimeCodeCounting(const Rate& rate, bool isDrop)
     : rate(rate), isDrop(isDrop), nominal(CheckedNominal(rate)), dropped(isDrop ? nominal / 15 : 0),
       framesPerMinute(nominal * 60 - dropped), framesPerTenMinutes(nominal * 600 - dropped * 9)
-{
-}
+{}
 
 bool TimeCodeCounting::IsDropFrameRate(const Rate& rate)
 {

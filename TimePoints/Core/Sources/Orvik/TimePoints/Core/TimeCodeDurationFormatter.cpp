@@ -13,14 +13,12 @@ namespace {
 __extension__ using UnsignedWide = unsigned __int128;
 
 constexpr char kInvalidCounting[] = "Orvik::TimePoints::TimeCodeDurationFormatter: ";  // followed by the reason
-constexpr char kTooManyFrames[] =
-    "Orvik::TimePoints::TimeCodeDurationFormatter: the frame count does not fit in 64 bits";
+constexpr char kTooManyFrames[] = "Orvik::TimePoints::TimeCodeDurationFormatter: the frame count does not fit in 64 bits";
 constexpr uint64_t kNanosecondsPerSecond = 1000000000;
 
 }  // namespace
 
-TimeCodeDurationFormatter::TimeCodeDurationFormatter(const TimePoints::Rate& rate, bool isDrop)
-    : rate(rate), isDrop(isDrop)
+TimeCodeDurationFormatter::TimeCodeDurationFormatter(const TimePoints::Rate& rate, bool isDrop) : rate(rate), isDrop(isDrop)
 {
     if (!detail::TimeCodeCounting(rate, isDrop).HasDropFrameRate())
         throw std::invalid_argument(kInvalidCounting + std::string(detail::Describe(detail::LabelFault::DropFrameRate)));
@@ -30,8 +28,7 @@ std::string TimeCodeDurationFormatter::Format(const Duration& duration) const
 {
     const detail::TimeCodeCounting counting(rate, isDrop);
     const int64_t nanoseconds = duration.ToNanoseconds();
-    const uint64_t magnitude =
-        nanoseconds < 0 ? 0 - static_cast<uint64_t>(nanoseconds) : static_cast<uint64_t>(nanoseconds);
+    const uint64_t magnitude = nanoseconds < 0 ? 0 - static_cast<uint64_t>(nanoseconds) : static_cast<uint64_t>(nanoseconds);
     // Whole frames, rounded toward zero: magnitude × rate / 10^9 < 2^127.
     const UnsignedWide frames = UnsignedWide(magnitude) * static_cast<uint64_t>(rate.Numerator())
         / (UnsignedWide(static_cast<uint64_t>(rate.Denominator())) * kNanosecondsPerSecond);

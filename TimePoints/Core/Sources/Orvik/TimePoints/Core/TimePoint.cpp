@@ -42,8 +42,7 @@ int64_t TimePoint::GetSampleNumber(const Rate& rate) const
 {
     CheckRate(rate);
     // |nanoseconds × numerator| < 2^126 and the divisor < 2^94: no step overflows.
-    const Wide sample =
-        FloorDivide(Wide(nanoseconds) * rate.Numerator(), Wide(rate.Denominator()) * kNanosecondsPerSecond);
+    const Wide sample = FloorDivide(Wide(nanoseconds) * rate.Numerator(), Wide(rate.Denominator()) * kNanosecondsPerSecond);
     if (!FitsIn64Bits(sample))
         throw std::out_of_range(kSampleOutOfRange);
     return static_cast<int64_t>(sample);
@@ -67,14 +66,8 @@ TimePoint TimePoint::FromSampleNumber(int64_t sampleNumber, const Rate& rate)
     return TimePoint(static_cast<int64_t>(point));
 }
 
-TimePoint TimePoint::Parse(const std::string& text, const TimePointParser& parser)
-{
-    return parser.Parse(text);
-}
+TimePoint TimePoint::Parse(const std::string& text, const TimePointParser& parser) { return parser.Parse(text); }
 
-std::string TimePoint::ToString(const TimePointFormatter& formatter) const
-{
-    return formatter.Format(*this);
-}
+std::string TimePoint::ToString(const TimePointFormatter& formatter) const { return formatter.Format(*this); }
 
 }  // namespace Orvik::TimePoints
