@@ -29,10 +29,7 @@ constexpr int kMutationsPerTarget = 3;
 template <typename T>
 using Mutation = std::function<std::optional<std::string>(T& target, ArbitraryObjects& any)>;
 
-std::string At(const std::string& path, size_t index)
-{
-    return path + "[" + std::to_string(index) + "]";
-}
+std::string At(const std::string& path, size_t index) { return path + "[" + std::to_string(index) + "]"; }
 
 /// A copy of `*pointer` in its place, so that a change to it leaves the source's object alone.
 template <typename T>
@@ -83,7 +80,8 @@ std::optional<std::string> MutateMetadata(MetadataProfileDictionary& dictionary,
         profile.Color(profile.Color() ^ 0x00FF0000);
         return entry + ".color";
     case 5:
-        profile.ArchiveStatus(profile.ArchiveStatus() == ArchiveStatus::None ? ArchiveStatus::Archived : ArchiveStatus::None);
+        profile.ArchiveStatus(profile.ArchiveStatus() == ArchiveStatus::None ? ArchiveStatus::Archived
+                                                                             : ArchiveStatus::None);
         return entry + ".archiveStatus";
     default:
         profile.FillAndKeyMediaAssetId(Identifier(profile.FillAndKeyMediaAssetId().Value() + "x"));
@@ -234,7 +232,8 @@ const std::vector<Mutation<MediaResource>> kResourceMutations = {
         return "name";
     },
     [](MediaResource& r, ArbitraryObjects&) -> std::optional<std::string> {
-        r.GeneralFormat(r.GeneralFormat() == ResourceFormat::unknown ? ResourceFormat::ToBeDefined : ResourceFormat::unknown);
+        r.GeneralFormat(r.GeneralFormat() == ResourceFormat::unknown ? ResourceFormat::ToBeDefined
+                                                                     : ResourceFormat::unknown);
         return "generalFormat";
     },
     [](MediaResource& r, ArbitraryObjects&) -> std::optional<std::string> {

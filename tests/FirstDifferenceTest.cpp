@@ -180,7 +180,8 @@ TEST(FirstDifference, CountsDifferAtTheFirstPositionOneSideLacks)
     two.Set(std::make_shared<TestProfile>(2));
     two.Set(std::make_shared<PelkOperatorMetadataProfile>());
     ExpectDifference(FirstDifference(one, two), {"[\"orvik.pelkoperator\"]", "missing", "PelkOperatorMetadataProfile"});
-    ExpectDifference(FirstDifference(one, MetadataProfileDictionary()), {"[\"test.profile\"]", "profile \"test.profile\"", "missing"});
+    ExpectDifference(FirstDifference(one, MetadataProfileDictionary()),
+                     {"[\"test.profile\"]", "profile \"test.profile\"", "missing"});
 }
 
 TEST(FirstDifference, ExpiredLayoutTrackThrowsWhereEqualityThrows)

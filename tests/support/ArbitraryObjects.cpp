@@ -54,8 +54,8 @@ E Pick(ArbitraryObjects& any, uint64_t count)
 
 int32_t SmallInt(ArbitraryObjects& any)
 {
-    static const int32_t values[] = {0, 1, -1, 2, 25, 1000, std::numeric_limits<int32_t>::max(),
-                                     std::numeric_limits<int32_t>::min()};
+    static const int32_t values[] = {
+        0, 1, -1, 2, 25, 1000, std::numeric_limits<int32_t>::max(), std::numeric_limits<int32_t>::min()};
     return any.Flip() ? values[any.Below(std::size(values))] : static_cast<int32_t>(any.Between(-5, 100000));
 }
 
@@ -127,10 +127,7 @@ Model::TimeBoundary ArbitraryObjects::Boundary()
     return Below(3) == 0 ? Model::TimeBoundary::Empty() : Model::TimeBoundary(TimePoint(), Flip());
 }
 
-Model::TimeBounds ArbitraryObjects::Bounds()
-{
-    return Model::TimeBounds(Boundary(), Boundary());
-}
+Model::TimeBounds ArbitraryObjects::Bounds() { return Model::TimeBounds(Boundary(), Boundary()); }
 
 Model::Timecode ArbitraryObjects::Timecode()
 {
@@ -239,8 +236,7 @@ Model::TimeCodeTable ArbitraryObjects::TimeCodeTable()
     return table;
 }
 
-std::unique_ptr<Model::Essence> ArbitraryObjects::Essence(
-    const std::vector<std::shared_ptr<Model::TimeCodeTable>>& tables)
+std::unique_ptr<Model::Essence> ArbitraryObjects::Essence(const std::vector<std::shared_ptr<Model::TimeCodeTable>>& tables)
 {
     std::unique_ptr<Model::Essence> essence;
     switch (Below(3)) {
@@ -353,10 +349,7 @@ Model::Stream ArbitraryObjects::Stream(size_t index)
     return stream;
 }
 
-Model::Stream ArbitraryObjects::Stream()
-{
-    return Stream(0);
-}
+Model::Stream ArbitraryObjects::Stream() { return Stream(0); }
 
 Model::MediaResource ArbitraryObjects::MediaResource(size_t index, size_t firstStream)
 {
@@ -378,10 +371,7 @@ Model::MediaResource ArbitraryObjects::MediaResource(size_t index, size_t firstS
     return resource;
 }
 
-Model::MediaResource ArbitraryObjects::MediaResource()
-{
-    return MediaResource(0, 0);
-}
+Model::MediaResource ArbitraryObjects::MediaResource() { return MediaResource(0, 0); }
 
 Model::Track ArbitraryObjects::Track(size_t index, const std::vector<std::shared_ptr<Model::Stream>>& streams)
 {
@@ -524,14 +514,8 @@ std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::Group(bool angles)
     return group;
 }
 
-std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::MediaAssetGroup()
-{
-    return Group(false);
-}
+std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::MediaAssetGroup() { return Group(false); }
 
-std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::AnglesMediaAssetGroup()
-{
-    return Group(true);
-}
+std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::AnglesMediaAssetGroup() { return Group(true); }
 
 }  // namespace Orvik::Testing

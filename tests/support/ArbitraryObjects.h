@@ -81,14 +81,14 @@ private:
     DataModel::MediaAssets::Timecode Timecode();
     std::string TimeCodeText();
     void FillMetadata(DataModel::MediaAssets::MetadataProfileDictionary& dictionary);
-    std::unique_ptr<DataModel::MediaAssets::Essence> Essence(
-        const std::vector<std::shared_ptr<DataModel::MediaAssets::TimeCodeTable>>& tables);
+    std::unique_ptr<DataModel::MediaAssets::Essence>
+    Essence(const std::vector<std::shared_ptr<DataModel::MediaAssets::TimeCodeTable>>& tables);
     DataModel::MediaAssets::Stream Stream(size_t index);
     DataModel::MediaAssets::MediaResource MediaResource(size_t index, size_t firstStream);
     DataModel::MediaAssets::Track Track(size_t index,
                                         const std::vector<std::shared_ptr<DataModel::MediaAssets::Stream>>& streams);
-    DataModel::MediaAssets::TrackLayout TrackLayout(
-        size_t index, const std::vector<std::shared_ptr<DataModel::MediaAssets::Track>>& tracks);
+    DataModel::MediaAssets::TrackLayout
+    TrackLayout(size_t index, const std::vector<std::shared_ptr<DataModel::MediaAssets::Track>>& tracks);
     DataModel::MediaAssets::MediaAssetReference AssetReference();
     std::shared_ptr<DataModel::MediaAssets::MediaAssetGroup> Group(bool angles);
 

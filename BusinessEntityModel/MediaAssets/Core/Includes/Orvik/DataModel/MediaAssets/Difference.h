@@ -25,8 +25,7 @@ class Difference {
 public:
     Difference(std::string path, std::string left, std::string right)
         : path(std::move(path)), left(std::move(left)), right(std::move(right))
-    {
-    }
+    {}
 
     const std::string& Path() const { return path; }
     const std::string& Left() const { return left; }

@@ -50,8 +50,7 @@ std::optional<Difference> FirstDifference(const TimeBoundsArray& left, const Tim
 std::optional<Difference> FirstDifference(const MetadataProfileDictionary& left, const MetadataProfileDictionary& right);
 /// Any profiles, compared as left's virtual Equals() does.
 std::optional<Difference> FirstDifference(const MetadataProfile& left, const MetadataProfile& right);
-std::optional<Difference> FirstDifference(const PelkOperatorMetadataProfile& left,
-                                          const PelkOperatorMetadataProfile& right);
+std::optional<Difference> FirstDifference(const PelkOperatorMetadataProfile& left, const PelkOperatorMetadataProfile& right);
 std::optional<Difference> FirstDifference(const AnglesPelkOperatorMetadataProfile& left,
                                           const AnglesPelkOperatorMetadataProfile& right);
 std::optional<Difference> FirstDifference(const TimeCodeTable& left, const TimeCodeTable& right);

@@ -81,10 +81,7 @@ inline constexpr auto kNonNullPointees = [](auto& visitor, const auto& a, const 
 };
 
 /// A negative number matches any number.
-inline bool NumbersMatch(int32_t a, int32_t b)
-{
-    return a == b || a < 0 || b < 0;
-}
+inline bool NumbersMatch(int32_t a, int32_t b) { return a == b || a < 0 || b < 0; }
 
 struct ComparisonOrder {
     template <typename V>
@@ -144,9 +141,8 @@ struct ComparisonOrder {
         const auto& b = static_cast<const AudioEssence&>(other);
         return v.Within("AudioEssence", [&] {
             return v.Value("audioCodec", a.audioCodec, b.audioCodec) && v.Value("bitRate", a.bitRate, b.bitRate)
-                && v.Value("bitRateMode", a.bitRateMode, b.bitRateMode)
-                && v.Value("sampleRate", a.sampleRate, b.sampleRate) && v.Value("bitDepth", a.bitDepth, b.bitDepth)
-                && v.Value("fourCC", a.fourCC, b.fourCC);
+                && v.Value("bitRateMode", a.bitRateMode, b.bitRateMode) && v.Value("sampleRate", a.sampleRate, b.sampleRate)
+                && v.Value("bitDepth", a.bitDepth, b.bitDepth) && v.Value("fourCC", a.fourCC, b.fourCC);
         });
     }
 
@@ -318,8 +314,7 @@ struct ComparisonOrder {
             && v.Value("page", a.Page(), b->Page()) && v.Value("bank", a.Bank(), b->Bank())
             && v.Value("clip", a.Clip(), b->Clip()) && v.Value("camera", a.Camera(), b->Camera())
             && v.Value("umId", a.UmId(), b->UmId()) && v.Value("varId", a.VarId(), b->VarId())
-            && v.Value("rating", a.Rating(), b->Rating())
-            && v.Value("archiveStatus", a.ArchiveStatus(), b->ArchiveStatus())
+            && v.Value("rating", a.Rating(), b->Rating()) && v.Value("archiveStatus", a.ArchiveStatus(), b->ArchiveStatus())
             && v.Value("userTimecodeType", a.UserTimecodeType(), b->UserTimecodeType())
             && v.Value("primaryTimecode", a.PrimaryTimecode(), b->PrimaryTimecode())
             && v.Value("userTimecode", a.UserTimecode(), b->UserTimecode())

@@ -32,7 +32,8 @@ std::string Quote(const std::string& text)
         default:
             if (static_cast<unsigned char>(character) < 0x20 || character == 0x7F) {
                 char escape[5];
-                std::snprintf(escape, sizeof escape, "\\x%02X", static_cast<unsigned>(static_cast<unsigned char>(character)));
+                std::snprintf(escape, sizeof escape, "\\x%02X",
+                              static_cast<unsigned>(static_cast<unsigned char>(character)));
                 quoted += escape;
             } else {
                 quoted += character;
@@ -119,8 +120,7 @@ bool DifferenceVisitor::Value(const TimeBoundary& a, const TimeBoundary& b)
 
 bool DifferenceVisitor::Value(const TimeBounds& a, const TimeBounds& b)
 {
-    return Value("inBoundary", a.InBoundary(), b.InBoundary())
-        && Value("outBoundary", a.OutBoundary(), b.OutBoundary());
+    return Value("inBoundary", a.InBoundary(), b.InBoundary()) && Value("outBoundary", a.OutBoundary(), b.OutBoundary());
 }
 
 bool DifferenceVisitor::Value(const Timecode& a, const Timecode& b)
@@ -164,7 +164,8 @@ bool DifferenceVisitor::Value(const MetadataProfileDictionary& a, const Metadata
             : i >= right.size()                           ? left[i]
                                                           : std::min(left[i], right[i]);
         const Scope scope = Key(name.Value());
-        return Record(a.Contains(name) ? Describe(a.At(name)) : kMissing, b.Contains(name) ? Describe(b.At(name)) : kMissing);
+        return Record(a.Contains(name) ? Describe(a.At(name)) : kMissing,
+                      b.Contains(name) ? Describe(b.At(name)) : kMissing);
     }
     return true;
 }

@@ -4,9 +4,6 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
-bool TimeCodeTable::operator==(const TimeCodeTable& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool TimeCodeTable::operator==(const TimeCodeTable& other) const { return detail::EqualInOrder(*this, other); }
 
 }  // namespace Orvik::DataModel::MediaAssets
