@@ -4,6 +4,7 @@
 #include <Orvik/DataModel/MediaAssets/Json/SchemaName.h>
 
 #include <limits>
+#include <new>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -18,10 +19,11 @@ std::unique_ptr<simdjson::ondemand::parser>& SpareParser()
     return spare;
 }
 
-std::unique_ptr<simdjson::ondemand::parser> TakeParser()
+Reader::LentParser TakeParser()
 {
-    std::unique_ptr<simdjson::ondemand::parser> parser = std::move(SpareParser());
-    return parser ? std::move(parser) : std::make_unique<simdjson::ondemand::parser>();
+    if (auto& spare = SpareParser())
+        return Reader::LentParser(spare.release());
+    return Reader::LentParser(new simdjson::ondemand::parser());
 }
 
 // What the document holds where something else was expected: the number itself, or its kind.
@@ -52,15 +54,22 @@ std::string Found(value& v)
 }  // namespace
 
 Reader::Reader(std::string_view document, std::string_view schemaName)
-    : schemaName(schemaName), text(document.data(), document.size()), parser(TakeParser())
+    : schemaName(schemaName), parser(TakeParser()), text(document.data(), document.size())
 {
+    // simdjson's padded copy is left without a buffer when its allocation fails.
+    if (text.data() == nullptr)
+        throw std::bad_alloc();
     this->document = Take(parser->iterate(text), "a JSON document");
 }
 
-Reader::~Reader()
+Reader::~Reader() = default;
+
+void Reader::GiveBack::operator()(simdjson::ondemand::parser* parser) const noexcept
 {
-    if (!SpareParser())
-        SpareParser() = std::move(parser);
+    if (SpareParser())
+        delete parser;
+    else
+        SpareParser().reset(parser);
 }
 
 int64_t Reader::Int64(value v) { return Take(v.get_int64(), "an integer", &v); }
@@ -154,6 +163,8 @@ void Reader::Fail(const std::string& expected) const { throw JsonError(path.ToSt
 
 void Reader::Fail(simdjson::error_code error, std::string_view expected, value* v) const
 {
+    if (error == simdjson::MEMALLOC)
+        throw std::bad_alloc();
     std::string message = "expected " + std::string(expected) + ", found ";
     if ((error == simdjson::INCORRECT_TYPE || error == simdjson::NUMBER_OUT_OF_RANGE) && v != nullptr)
         message += Found(*v);

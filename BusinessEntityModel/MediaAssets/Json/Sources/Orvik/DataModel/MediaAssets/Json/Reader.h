@@ -40,6 +40,15 @@ constexpr Members<sizeof...(Names)> MemberNames(Names... names)
 class Reader {
 public:
     /// Parses `text`, whose top-level object must carry the schema `schemaName`.
+    /// Gives a parser back to the thread's spare, buffers and all, when there is none; a reader
+    /// that fails anywhere, even while it is being built, gives its parser back too. (simdjson
+    /// 3.0 does not check the allocation of the string buffer when a parser grows: a parser
+    /// kept grown meets that allocation only for a larger document.)
+    struct GiveBack {
+        void operator()(simdjson::ondemand::parser* parser) const noexcept;
+    };
+    using LentParser = std::unique_ptr<simdjson::ondemand::parser, GiveBack>;
+
     Reader(std::string_view text, std::string_view schemaName);
     ~Reader();
     Reader(const Reader&) = delete;
@@ -232,8 +241,8 @@ private:
     [[noreturn]] void Missing(std::string_view key) const;
 
     std::string_view schemaName;
+    LentParser parser;
     simdjson::padded_string text;
-    std::unique_ptr<simdjson::ondemand::parser> parser;
     simdjson::ondemand::document document;
     Path path;
     std::unordered_map<std::string, Entry> shared;
