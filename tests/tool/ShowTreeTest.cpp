@@ -2,6 +2,7 @@
 #include "TimeText.h"
 #include "TreePrinter.h"
 
+#include <ArbitraryObjects.h>
 #include <Orvik/DataModel/MediaAssets.h>
 #include <SampleAssets.h>
 
@@ -110,6 +111,19 @@ TEST(ShowTree, ControlCharactersOfADocumentAreEscaped)
               "media asset id\\x1b[2J\n"
               "  type  unknown\n"
               "  name  two\\nlines\\tand \\u009b C1\n");
+}
+
+TEST(ShowTree, ArbitraryObjectsPrintWithoutControlCharacters)
+{
+    for (uint64_t seed = 0; seed < 100; ++seed) {
+        Orvik::Testing::ArbitraryObjects objects(seed);
+        const std::string text = Plain(AssetTree(objects.MediaAsset())) + Plain(GroupTree(*objects.MediaAssetGroup()))
+            + Plain(GroupTree(*objects.AnglesMediaAssetGroup()));
+        for (const char c : text) {
+            const auto byte = static_cast<unsigned char>(c);
+            ASSERT_TRUE(c == '\n' || (byte >= 0x20 && byte != 0x7f)) << "seed " << seed << ", byte " << int(byte);
+        }
+    }
 }
 
 TEST(ShowTree, ColourPaintsObjectLabelsAndValuesByTone)

@@ -1,6 +1,7 @@
 #include "JsonPointer.h"
 #include "Validation.h"
 
+#include <ArbitraryObjects.h>
 #include <Orvik/DataModel/MediaAssets.h>
 #include <SampleAssets.h>
 
@@ -187,6 +188,20 @@ TEST(Validation, GroupItemsThatReferToNoAssetAndProblemsOfLoadedAssets)
                 ElementsAre(Problem{"/items/0/mediaAsset/physicalTimebounds/inBoundary",
                                     "the in boundary 0h 00m 01s lies in no stretch"},
                             Problem{"/items/1/mediaAsset", "the item refers to no asset"}));
+}
+
+TEST(Validation, ArbitraryObjectsGetProblemsWithPointersAndNoException)
+{
+    for (uint64_t seed = 0; seed < 100; ++seed) {
+        Orvik::Testing::ArbitraryObjects objects(seed);
+        auto problems = Validate(objects.MediaAsset());
+        const auto groupProblems = Validate(*objects.AnglesMediaAssetGroup());
+        problems.insert(problems.end(), groupProblems.begin(), groupProblems.end());
+        for (const Problem& problem : problems) {
+            ASSERT_EQ(problem.path.rfind('/', 0), 0u) << "seed " << seed << ": " << problem.message;
+            ASSERT_FALSE(problem.message.empty()) << "seed " << seed << ": " << problem.path;
+        }
+    }
 }
 
 TEST(JsonPointer, EscapesTildeAndSlashInMemberNames)
