@@ -1,0 +1,12 @@
+#pragma once
+
+// The JSON form of the model: ToJson, FromJson, SchemaName, the metadata profile codecs and the
+// library's one exception type.
+
+#include <Orvik/DataModel/MediaAssets/Json/FromJson.h>
+#include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
+#include <Orvik/DataModel/MediaAssets/Json/Layout.h>
+#include <Orvik/DataModel/MediaAssets/Json/MetadataProfileCodec.h>
+#include <Orvik/DataModel/MediaAssets/Json/RawMetadataProfile.h>
+#include <Orvik/DataModel/MediaAssets/Json/SchemaName.h>
+#include <Orvik/DataModel/MediaAssets/Json/ToJson.h>

@@ -1,0 +1,95 @@
+#pragma once
+
+// The codec of each part of the model, one pair per class: Write puts the object's JSON value at
+// the writer's place, Read builds the object from a value. Each source of this folder holds the
+// codecs of one area, writer and reader side by side with the member order of the document.
+
+#include "Reader.h"
+#include "Writer.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
+
+#include <cstddef>
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+namespace Orvik::DataModel::MediaAssets::Json::detail {
+
+// Time values and timecode (TimeCodec.cpp).
+void Write(Writer& w, const TimeBoundary& boundary);
+TimeBoundary ReadTimeBoundary(Reader& r, value v);
+void Write(Writer& w, const TimeBounds& bounds);
+TimeBounds ReadTimeBounds(Reader& r, value v);
+void Write(Writer& w, const TimeBoundsArray& array);
+void Read(Reader& r, value v, TimeBoundsArray& array);
+void Write(Writer& w, const Timecode& timecode);
+Timecode ReadTimecode(Reader& r, value v);
+void Write(Writer& w, const Rate& rate);
+Rate ReadRate(Reader& r, value v);
+/// A table in full the first time, a JSON pointer to it afterwards.
+void Write(Writer& w, const std::shared_ptr<TimeCodeTable>& table);
+std::shared_ptr<TimeCodeTable> ReadTimeCodeTable(Reader& r, value v);
+
+// Metadata dictionaries and profiles (MetadataCodec.cpp).
+void Write(Writer& w, const MetadataProfileDictionary& dictionary);
+void Read(Reader& r, value v, MetadataProfileDictionary& dictionary);
+void WriteMembers(Writer& w, const PelkOperatorMetadataProfile& profile);
+void ReadMembers(Reader& r, Reader::Rest& rest, PelkOperatorMetadataProfile& profile);
+void WriteMembers(Writer& w, const AnglesPelkOperatorMetadataProfile& profile);
+void ReadMembers(Reader& r, Reader::Rest& rest, AnglesPelkOperatorMetadataProfile& profile);
+
+// Essences and locations (EssenceCodec.cpp, LocationCodec.cpp).
+void Write(Writer& w, const Essence& essence);
+std::unique_ptr<Essence> ReadEssence(Reader& r, value v);
+void Write(Writer& w, const Location& location);
+std::unique_ptr<Location> ReadLocation(Reader& r, value v);
+
+// Streams and media resources (StreamCodec.cpp).
+void Write(Writer& w, const Stream& stream);
+void Read(Reader& r, value v, Stream& stream);
+void ReadMembers(Reader& r, Reader::Rest& rest, Stream& stream);
+void Write(Writer& w, const StreamReference& reference);
+StreamReference ReadStreamReference(Reader& r, value v);
+void Write(Writer& w, const MediaResource& resource);
+void Read(Reader& r, value v, MediaResource& resource);
+void ReadMembers(Reader& r, Reader::Rest& rest, MediaResource& resource);
+
+// Media assets (AssetCodec.cpp) and asset groups (GroupCodec.cpp).
+void Write(Writer& w, const MediaAsset& asset);
+void ReadMembers(Reader& r, Reader::Rest& rest, MediaAsset& asset);
+/// The group's "kind" (its class) and then its members, as WriteMembers writes them.
+void WriteMembers(Writer& w, const MediaAssetGroup& group);
+std::shared_ptr<MediaAssetGroup> ReadGroup(Reader& r, Reader::Rest& rest);
+
+/// A reference holding `object` whose id is `id`, even when the object's own id differs (as it
+/// does when the object's id was changed after the reference was made).
+template <typename T>
+SharedReference<T> MakeReference(const std::shared_ptr<T>& object, const Identifier& id)
+{
+    if (object->Id() == id)
+        return SharedReference<T>(object);
+    const Identifier own = object->Id();
+    object->Id(id);
+    SharedReference<T> reference(object);
+    object->Id(own);
+    return reference;
+}
+
+/// Inserts `items`, read in document order, into the sorted `vector` so that it ends in that same
+/// order: from the last to the first, as an insert goes in front of the elements that sort equal.
+/// An element that the vector refuses is reported at its index.
+template <typename Vector, typename T>
+void InsertInDocumentOrder(Reader& r, Vector& vector, const std::vector<T>& items)
+{
+    for (size_t index = items.size(); index-- > 0;) {
+        try {
+            vector.Insert(items[index]);
+        } catch (const std::runtime_error&) {
+            const PathSegment segment(r.CurrentPath(), index);
+            r.Fail("expected an element that no other element of the collection equals");
+        }
+    }
+}
+
+}  // namespace Orvik::DataModel::MediaAssets::Json::detail

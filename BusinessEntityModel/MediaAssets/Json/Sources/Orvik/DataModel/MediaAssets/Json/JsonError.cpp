@@ -1,0 +1,10 @@
+#include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
+
+namespace Orvik::DataModel::MediaAssets::Json {
+
+JsonError::JsonError(const std::string& path, const std::string& expected)
+    : std::runtime_error((path.empty() ? std::string("(root)") : path) + ": " + expected), path(path)
+{
+}
+
+}  // namespace Orvik::DataModel::MediaAssets::Json

@@ -1,0 +1,47 @@
+#pragma once
+
+// The JSON pointer of the value being written or read, kept as a stack of member names and
+// array indices and turned into text only when an error or a reference needs it.
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Orvik::DataModel::MediaAssets::Json::detail {
+
+class Path {
+public:
+    Path() { segments.reserve(16); }
+
+    /// The name must outlive its segment.
+    void PushName(std::string_view name) { segments.push_back({name, 0, false}); }
+    void PushIndex(size_t index) { segments.push_back({{}, index, true}); }
+    void Pop() { segments.pop_back(); }
+
+    /// "/mediaResources/2/pointer"; "" for the whole document. "~" and "/" in names are escaped.
+    std::string ToString() const;
+
+private:
+    struct Segment {
+        std::string_view name;
+        size_t index;
+        bool isIndex;
+    };
+    std::vector<Segment> segments;
+};
+
+/// Pushes a segment for the lifetime of the scope.
+class PathSegment {
+public:
+    PathSegment(Path& path, std::string_view name) : path(path) { path.PushName(name); }
+    PathSegment(Path& path, size_t index) : path(path) { path.PushIndex(index); }
+    PathSegment(const PathSegment&) = delete;
+    PathSegment& operator=(const PathSegment&) = delete;
+    ~PathSegment() { path.Pop(); }
+
+private:
+    Path& path;
+};
+
+}  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -1,0 +1,199 @@
+#include "Reader.h"
+
+#include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
+#include <Orvik/DataModel/MediaAssets/Json/SchemaName.h>
+
+#include <limits>
+
+namespace Orvik::DataModel::MediaAssets::Json::detail {
+
+namespace {
+
+// The parser keeps its buffers between documents of one thread; a document read while another
+// is being read on the same thread (a profile codec that reads a document) gets a parser of its
+// own.
+std::unique_ptr<simdjson::ondemand::parser>& SpareParser()
+{
+    thread_local std::unique_ptr<simdjson::ondemand::parser> spare;
+    return spare;
+}
+
+std::unique_ptr<simdjson::ondemand::parser> TakeParser()
+{
+    std::unique_ptr<simdjson::ondemand::parser> parser = std::move(SpareParser());
+    return parser ? std::move(parser) : std::make_unique<simdjson::ondemand::parser>();
+}
+
+// What the document holds where something else was expected: the number itself, or its kind.
+std::string Found(value& v)
+{
+    simdjson::ondemand::json_type type{};
+    if (v.type().get(type) != simdjson::SUCCESS)
+        return "malformed JSON";
+    switch (type) {
+    case simdjson::ondemand::json_type::array:
+        return "an array";
+    case simdjson::ondemand::json_type::object:
+        return "an object";
+    case simdjson::ondemand::json_type::number: {
+        const std::string_view token = v.raw_json_token();
+        return std::string(token.substr(0, token.find_last_not_of(" \t\n\r") + 1));
+    }
+    case simdjson::ondemand::json_type::string:
+        return "a string";
+    case simdjson::ondemand::json_type::boolean:
+        return "true or false";
+    case simdjson::ondemand::json_type::null:
+        return "null";
+    }
+    return "malformed JSON";
+}
+
+}  // namespace
+
+Reader::Reader(std::string_view document, std::string_view schemaName)
+    : schemaName(schemaName), text(document.data(), document.size()), parser(TakeParser())
+{
+    this->document = Take(parser->iterate(text), "a JSON document");
+}
+
+Reader::~Reader()
+{
+    if (!SpareParser())
+        SpareParser() = std::move(parser);
+}
+
+int64_t Reader::Int64(value v)
+{
+    return Take(v.get_int64(), "an integer", &v);
+}
+
+int32_t Reader::Int32(value v)
+{
+    const int64_t number = Int64(v);
+    if (number < std::numeric_limits<int32_t>::min() || number > std::numeric_limits<int32_t>::max())
+        Fail("expected an integer from -2147483648 to 2147483647, found " + std::to_string(number));
+    return static_cast<int32_t>(number);
+}
+
+bool Reader::Bool(value v)
+{
+    return Take(v.get_bool(), "true or false", &v);
+}
+
+std::string_view Reader::String(value v)
+{
+    return Take(v.get_string(), "a string", &v);
+}
+
+std::string_view Reader::RawObject(value v)
+{
+    auto object = Take(v.get_object(), "an object", &v);
+    std::string_view raw = Take(object.raw_json(), "an object");
+    // The parser's text runs on to the next token; the whitespace before it is not the object's.
+    const size_t end = raw.find_last_not_of(" \t\n\r");
+    return raw.substr(0, end == std::string_view::npos ? 0 : end + 1);
+}
+
+bool Reader::IsString(value v)
+{
+    return Take(v.type(), "a JSON value") == simdjson::ondemand::json_type::string;
+}
+
+namespace {
+constexpr auto kSchemaMembers = MemberNames("name", "version");
+}  // namespace
+
+std::string Reader::SchemaName()
+{
+    Rest rest = OpenRoot();
+    const value schema = First(rest, "schema");
+    const PathSegment segment(path, "schema");
+    std::string name;
+    Object(schema, kSchemaMembers, [&](size_t index, value member) {
+        if (index == 0)
+            name = Text(member);
+        else
+            Int64(member);
+    });
+    return name;
+}
+
+Reader::Rest Reader::OpenRoot()
+{
+    value root = Take(document.get_value(), "a JSON value");
+    return Open(root);
+}
+
+void Reader::CheckSchema(value v)
+{
+    const PathSegment segment(path, "schema");
+    Object(v, kSchemaMembers, [&](size_t index, value member) {
+        if (index == 0) {
+            const std::string_view name = String(member);
+            if (name != schemaName)
+                Fail("expected \"" + std::string(schemaName) + "\", found \"" + std::string(name) + "\"");
+        } else {
+            const int64_t version = Int64(member);
+            if (version != kSchemaVersion)
+                Fail("expected version " + std::to_string(kSchemaVersion) + ", found " + std::to_string(version));
+        }
+    });
+}
+
+value Reader::First(Rest& rest, std::string_view name)
+{
+    if (!(rest.it != rest.end))
+        Fail("expected member \"" + std::string(name) + "\" first, found an empty object");
+    auto field = Take(*rest.it, "a member");
+    const std::string_view key = Take(field.unescaped_key(), "a member name");
+    if (key != name)
+        Fail("expected member \"" + std::string(name) + "\" first, found \"" + std::string(key) + "\"");
+    return field.value();
+}
+
+size_t Reader::Find(const std::string_view* names, size_t count, size_t next, std::string_view key)
+{
+    if (next < count && names[next] == key)
+        return next;
+    for (size_t index = 0; index < count; ++index)
+        if (names[index] == key)
+            return index;
+    return count;
+}
+
+void Reader::Fail(const std::string& expected) const
+{
+    throw JsonError(path.ToString(), expected);
+}
+
+void Reader::Fail(simdjson::error_code error, std::string_view expected, value* v) const
+{
+    std::string message = "expected " + std::string(expected) + ", found ";
+    if ((error == simdjson::INCORRECT_TYPE || error == simdjson::NUMBER_OUT_OF_RANGE) && v != nullptr)
+        message += Found(*v);
+    else if (error == simdjson::DEPTH_ERROR)
+        message += "nesting deeper than " + std::to_string(simdjson::DEFAULT_MAX_DEPTH) + " levels";
+    else
+        message += std::string("malformed JSON (") + simdjson::error_message(error) + ")";
+    Fail(message);
+}
+
+void Reader::Unexpected(std::string_view key)
+{
+    const PathSegment segment(path, key);
+    Fail("expected no member of this name");
+}
+
+void Reader::Duplicate(std::string_view key)
+{
+    const PathSegment segment(path, key);
+    Fail("expected one member of this name, found a second");
+}
+
+void Reader::Missing(std::string_view key) const
+{
+    Fail("expected member \"" + std::string(key) + "\"");
+}
+
+}  // namespace Orvik::DataModel::MediaAssets::Json::detail

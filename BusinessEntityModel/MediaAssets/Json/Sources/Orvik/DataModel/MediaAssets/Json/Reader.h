@@ -1,0 +1,242 @@
+#pragma once
+
+// Reads one document with simdjson's On-Demand parser, in one pass: each codec asks for the
+// members of its object by a fixed table of names, and every failure becomes a JsonError naming
+// the JSON pointer of the value and what was expected.
+
+#include "Path.h"
+
+#include <simdjson.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <typeinfo>
+#include <unordered_map>
+#include <utility>
+
+namespace Orvik::DataModel::MediaAssets::Json::detail {
+
+using simdjson::ondemand::value;
+
+/// The member names of one kind of object, in document order; members whose bit is set in
+/// `optional` may be absent.
+template <size_t N>
+struct Members {
+    std::array<std::string_view, N> names;
+    uint64_t optional = 0;
+};
+
+template <typename... Names>
+constexpr Members<sizeof...(Names)> MemberNames(Names... names)
+{
+    static_assert(sizeof...(Names) <= 64, "one bit per member");
+    return Members<sizeof...(Names)>{{std::string_view(names)...}, 0};
+}
+
+class Reader {
+public:
+    /// Parses `text`, whose top-level object must carry the schema `schemaName`.
+    Reader(std::string_view text, std::string_view schemaName);
+    ~Reader();
+    Reader(const Reader&) = delete;
+    Reader& operator=(const Reader&) = delete;
+
+    /// The members of an object that are still to be read.
+    struct Rest {
+        simdjson::ondemand::object_iterator it;
+        simdjson::ondemand::object_iterator end;
+    };
+
+    /// Checks that the top-level object opens with the expected "schema" member, calls
+    /// `read(rest)` for its other members, then checks that nothing follows the object.
+    template <typename Read>
+    void Document(Read&& read)
+    {
+        Rest rest = OpenRoot();
+        CheckSchema(First(rest, "schema"));
+        ++rest.it;
+        read(rest);
+        const char* after = nullptr;
+        if (document.current_location().get(after) == simdjson::SUCCESS)
+            Fail("expected the end of the document, found more text");
+    }
+
+    /// The name in the top-level object's "schema" member, whatever it is.
+    std::string SchemaName();
+
+    /// The members of the object `v`, to be read with ReadRest().
+    Rest Open(value v)
+    {
+        auto object = Take(v.get_object(), "an object", &v);
+        return Rest{Take(object.begin(), "an object"), Take(object.end(), "an object")};
+    }
+
+    /// Reads the members of the object `v` by `members`, as ReadRest() does.
+    template <size_t N, typename Read>
+    void Object(value v, const Members<N>& members, Read&& read)
+    {
+        Rest rest = Open(v);
+        ReadRest(rest, members, read);
+    }
+
+    /// For an object whose class is named by its first member `tag`: reads that member's text
+    /// and calls `choose(text, rest)`, which reads the other members with ReadRest().
+    template <typename Choose>
+    void Polymorphic(value v, std::string_view tag, Choose&& choose)
+    {
+        Rest rest = Open(v);
+        const std::string text = Tag(rest, tag);
+        choose(std::string_view(text), rest);
+    }
+
+    /// The text of the first of `rest`'s members, which must be named `tag`.
+    std::string Tag(Rest& rest, std::string_view tag)
+    {
+        const PathSegment segment(path, tag);
+        std::string text(String(First(rest, tag)));
+        ++rest.it;
+        return text;
+    }
+
+    /// Reads the remaining members by `members`, calling `read(index, value)` for each with the
+    /// path extended by the member's name. Refuses unknown and repeated members and reports the
+    /// first missing one.
+    template <size_t N, typename Read>
+    void ReadRest(Rest& rest, const Members<N>& members, Read&& read)
+    {
+        uint64_t seen = 0;
+        size_t next = 0;
+        for (; rest.it != rest.end; ++rest.it) {
+            auto field = Take(*rest.it, "a member");
+            const std::string_view key = Take(field.unescaped_key(), "a member name");
+            const size_t index = Find(members.names.data(), N, next, key);
+            if (index == N)
+                Unexpected(key);
+            const uint64_t bit = uint64_t{1} << index;
+            if ((seen & bit) != 0)
+                Duplicate(key);
+            seen |= bit;
+            next = index + 1;
+            const PathSegment segment(path, members.names[index]);
+            read(index, field.value());
+        }
+        const uint64_t all = N == 64 ? ~uint64_t{0} : (uint64_t{1} << N) - 1;
+        const uint64_t missing = all & ~members.optional & ~seen;
+        if (missing != 0)
+            Missing(members.names[static_cast<size_t>(__builtin_ctzll(missing))]);
+    }
+
+    /// Calls `read(element)` for each element of the array `v`, with the path extended by its
+    /// index.
+    template <typename Read>
+    void Array(value v, Read&& read)
+    {
+        auto array = Take(v.get_array(), "an array", &v);
+        size_t index = 0;
+        for (auto element : array) {
+            const PathSegment segment(path, index++);
+            read(Take(std::move(element), "an array element"));
+        }
+    }
+
+    /// Calls `read(name, value)` for each member of the object `v`, whatever its name, with the
+    /// path extended by the name.
+    template <typename Read>
+    void Dictionary(value v, Read&& read)
+    {
+        auto object = Take(v.get_object(), "an object", &v);
+        for (auto member : object) {
+            auto field = Take(std::move(member), "a member");
+            const std::string name(Take(field.unescaped_key(), "a member name"));
+            const PathSegment segment(path, name);
+            read(name, field.value());
+        }
+    }
+
+    int64_t Int64(value v);
+    int32_t Int32(value v);
+    bool Bool(value v);
+    /// Valid until the next string is read.
+    std::string_view String(value v);
+    std::string Text(value v) { return std::string(String(v)); }
+    /// The text of the object `v` exactly as the document holds it.
+    std::string_view RawObject(value v);
+    bool IsString(value v);
+
+    /// Converts the text of `v` with `convert`, refusing a text it does not know.
+    template <typename E>
+    E Enumeration(value v, E (*convert)(const std::string&, bool&), std::string_view name)
+    {
+        const std::string text(String(v));
+        bool failed = false;
+        const E result = convert(text, failed);
+        if (failed)
+            Fail("expected a " + std::string(name) + " text, found \"" + text + "\"");
+        return result;
+    }
+
+    /// Remembers `object` as written at the current path, for JSON pointers met later.
+    template <typename T>
+    void Register(const std::shared_ptr<T>& object)
+    {
+        shared.insert_or_assign(path.ToString(), Entry{&typeid(T), object});
+    }
+    /// The object of class T written at the JSON pointer that `v` holds; refuses a pointer to
+    /// anything else, described to the reader as `what`.
+    template <typename T>
+    std::shared_ptr<T> Referenced(value v, std::string_view what)
+    {
+        const std::string pointer(String(v));
+        const auto found = shared.find(pointer);
+        if (found == shared.end() || *found->second.type != typeid(T))
+            Fail("expected a JSON pointer to " + std::string(what) + " written earlier in the document, found \""
+                 + pointer + "\"");
+        return std::static_pointer_cast<T>(found->second.object);
+    }
+
+    [[noreturn]] void Fail(const std::string& expected) const;
+    /// Refuses the member `key` of the current object as met a second time.
+    [[noreturn]] void Duplicate(std::string_view key);
+
+    Path& CurrentPath() { return path; }
+
+    template <typename T>
+    T Take(simdjson::simdjson_result<T>&& result, std::string_view expected, value* v = nullptr)
+    {
+        T out{};
+        const simdjson::error_code error = std::move(result).get(out);
+        if (error != simdjson::SUCCESS)
+            Fail(error, expected, v);
+        return out;
+    }
+
+private:
+    struct Entry {
+        const std::type_info* type;
+        std::shared_ptr<void> object;
+    };
+
+    [[noreturn]] void Fail(simdjson::error_code error, std::string_view expected, value* v) const;
+    void CheckSchema(value v);
+    /// The members of the top-level object.
+    Rest OpenRoot();
+    /// The value of the first member of `rest`, which must be named `name`; the caller moves past
+    /// it once the value is read.
+    value First(Rest& rest, std::string_view name);
+    static size_t Find(const std::string_view* names, size_t count, size_t next, std::string_view key);
+    [[noreturn]] void Unexpected(std::string_view key);
+    [[noreturn]] void Missing(std::string_view key) const;
+
+    std::string_view schemaName;
+    simdjson::padded_string text;
+    std::unique_ptr<simdjson::ondemand::parser> parser;
+    simdjson::ondemand::document document;
+    Path path;
+    std::unordered_map<std::string, Entry> shared;
+};
+
+}  // namespace Orvik::DataModel::MediaAssets::Json::detail

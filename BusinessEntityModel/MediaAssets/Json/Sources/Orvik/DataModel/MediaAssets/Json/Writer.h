@@ -1,0 +1,115 @@
+#pragma once
+
+// Writes one document with RapidJSON's writer into a string buffer: members in the order the
+// codecs call them, the "schema" member first in the top-level object, shared objects in full at
+// their first place and as a JSON pointer to it everywhere else.
+
+#include "Path.h"
+
+#include <Orvik/DataModel/MediaAssets/Json/Layout.h>
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace Orvik::DataModel::MediaAssets::Json::detail {
+
+class Writer {
+public:
+    explicit Writer(std::string_view schemaName);
+    Writer(const Writer&) = delete;
+    Writer& operator=(const Writer&) = delete;
+
+    /// Starts an object; the first one of the document opens with the "schema" member.
+    void StartObject();
+    void EndObject() { json.EndObject(); }
+    void StartArray() { json.StartArray(); }
+    void EndArray() { json.EndArray(); }
+
+    void Key(std::string_view name);
+    void Int(int64_t value) { json.Int64(value); }
+    void Bool(bool value) { json.Bool(value); }
+    /// Throws JsonError at the current path unless `text` is valid UTF-8.
+    void String(std::string_view text);
+    /// A JSON value that is written as it stands (checked by the caller).
+    void Raw(std::string_view jsonText);
+
+    void Int(std::string_view name, int64_t value)
+    {
+        Key(name);
+        json.Int64(value);
+    }
+    void Bool(std::string_view name, bool value)
+    {
+        Key(name);
+        json.Bool(value);
+    }
+    void String(std::string_view name, std::string_view text);
+
+    /// Writes the key, then `write()` with the path extended by it.
+    template <typename Write>
+    void Member(std::string_view name, Write&& write)
+    {
+        Key(name);
+        const PathSegment segment(path, name);
+        write();
+    }
+
+    /// Writes the key and an array of `range`'s elements, each by `write(element)` with the path
+    /// extended by its index.
+    template <typename Range, typename Write>
+    void Array(std::string_view name, const Range& range, Write&& write)
+    {
+        Member(name, [&] {
+            json.StartArray();
+            size_t index = 0;
+            for (const auto& element : range) {
+                const PathSegment segment(path, index++);
+                write(element);
+            }
+            json.EndArray();
+        });
+    }
+
+    /// The first time `object` is met, remembers the current path and calls `writeInFull()`;
+    /// afterwards writes that path as a string.
+    template <typename WriteInFull>
+    void Shared(const void* object, WriteInFull&& writeInFull)
+    {
+        const auto found = written.find(object);
+        if (found != written.end()) {
+            String(found->second);
+            return;
+        }
+        written.emplace(object, path.ToString());
+        writeInFull();
+    }
+    /// Remembers the current path as the place of `object` (written in full by the caller).
+    void Register(const void* object) { written.emplace(object, path.ToString()); }
+    /// The path at which `object` was written, or nullptr.
+    const std::string* PlaceOf(const void* object) const;
+
+    [[noreturn]] void Fail(const std::string& expected) const;
+
+    Path& CurrentPath() { return path; }
+
+    /// The document, compact or indented.
+    std::string Finish(Layout layout) const;
+
+private:
+    using JsonWriter = rapidjson::Writer<rapidjson::StringBuffer, rapidjson::UTF8<>, rapidjson::UTF8<>,
+                                         rapidjson::CrtAllocator, rapidjson::kWriteValidateEncodingFlag>;
+
+    rapidjson::StringBuffer buffer;
+    JsonWriter json;
+    std::string_view schemaName;
+    bool schemaWritten = false;
+    Path path;
+    std::unordered_map<const void*, std::string> written;
+};
+
+}  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -1,0 +1,205 @@
+// The JSON form of the hand-written documents in tests/data: lossless, canonical, and the
+// sharing the documents record restored on reading.
+
+#include <Orvik/DataModel/MediaAssets.h>
+#include <Orvik/DataModel/MediaAssets/Json.h>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+
+using namespace Orvik::DataModel::MediaAssets;
+
+namespace {
+
+std::string ReadFile(const std::string& name)
+{
+    std::ifstream in(std::string(ORVIK_TEST_DATA_DIR) + "/" + name, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+bool Equal(const std::shared_ptr<MediaAssetGroup>& a, const std::shared_ptr<MediaAssetGroup>& b) { return *a == *b; }
+template <typename T>
+bool Equal(const T& a, const T& b)
+{
+    return a == b;
+}
+
+// Reads `text` as T, then checks FromJson(ToJson(x)) == x and that writing again gives the same
+// bytes; returns the compact form.
+template <typename T>
+std::string CheckLossless(const std::string& text)
+{
+    const T first = Json::FromJson<T>(text);
+    const std::string compact = Json::ToJson(*&first);
+    const T second = Json::FromJson<T>(compact);
+    EXPECT_TRUE(Equal(first, second));
+    EXPECT_EQ(Json::ToJson(second), compact);
+    return compact;
+}
+
+template <>
+std::string CheckLossless<std::shared_ptr<MediaAssetGroup>>(const std::string& text)
+{
+    const auto first = Json::FromJson<std::shared_ptr<MediaAssetGroup>>(text);
+    const std::string compact = Json::ToJson(*first);
+    const auto second = Json::FromJson<std::shared_ptr<MediaAssetGroup>>(compact);
+    EXPECT_TRUE(Equal(first, second));
+    EXPECT_EQ(Json::ToJson(*second), compact);
+    return compact;
+}
+
+// The indented form of what `text` describes.
+std::string Indented(const std::string& text)
+{
+    const std::string schema = Json::SchemaName(text);
+    if (schema == "MediaAsset")
+        return Json::ToJson(Json::FromJson<MediaAsset>(text), Json::Layout::Indented);
+    if (schema == "MediaResource")
+        return Json::ToJson(Json::FromJson<MediaResource>(text), Json::Layout::Indented);
+    if (schema == "Stream")
+        return Json::ToJson(Json::FromJson<Stream>(text), Json::Layout::Indented);
+    if (schema == "MediaAssetGroup")
+        return Json::ToJson(*Json::FromJson<std::shared_ptr<MediaAssetGroup>>(text), Json::Layout::Indented);
+    if (schema == "PelkOperatorMetadataProfile")
+        return Json::ToJson(Json::FromJson<PelkOperatorMetadataProfile>(text), Json::Layout::Indented);
+    return Json::ToJson(Json::FromJson<AnglesPelkOperatorMetadataProfile>(text), Json::Layout::Indented);
+}
+
+struct Fixture {
+    const char* file;
+    const char* schema;
+};
+constexpr Fixture kFixtures[] = {
+    {"asset-full.json", "MediaAsset"},
+    {"asset-every-enumeration-value.json", "MediaAsset"},
+    {"asset-train.json", "MediaAsset"},
+    {"asset-media.json", "MediaAsset"},
+    {"resource.json", "MediaResource"},
+    {"stream.json", "Stream"},
+    {"group.json", "MediaAssetGroup"},
+    {"group-angles.json", "MediaAssetGroup"},
+    {"profile-pelk.json", "PelkOperatorMetadataProfile"},
+    {"profile-angles.json", "AnglesPelkOperatorMetadataProfile"},
+};
+
+}  // namespace
+
+TEST(JsonDocuments, EveryHandWrittenDocumentReadsWritesAndReadsBackEqualAndByteIdentical)
+{
+    for (const Fixture& fixture : kFixtures) {
+        SCOPED_TRACE(fixture.file);
+        const std::string text = ReadFile(fixture.file);
+        ASSERT_EQ(Json::SchemaName(text), fixture.schema);
+        const std::string schema = fixture.schema;
+        if (schema == "MediaAsset")
+            CheckLossless<MediaAsset>(text);
+        else if (schema == "MediaResource")
+            CheckLossless<MediaResource>(text);
+        else if (schema == "Stream")
+            CheckLossless<Stream>(text);
+        else if (schema == "MediaAssetGroup")
+            CheckLossless<std::shared_ptr<MediaAssetGroup>>(text);
+        else if (schema == "PelkOperatorMetadataProfile")
+            CheckLossless<PelkOperatorMetadataProfile>(text);
+        else
+            CheckLossless<AnglesPelkOperatorMetadataProfile>(text);
+    }
+}
+
+// The documents are written in the canonical member order with two-space indentation, so the
+// indented form of what they describe is their own text: a member written out of place, or a
+// field that is lost, shows here as a difference.
+TEST(JsonDocuments, IndentedFormOfEachHandWrittenDocumentIsItsText)
+{
+    for (const Fixture& fixture : kFixtures) {
+        SCOPED_TRACE(fixture.file);
+        const std::string text = ReadFile(fixture.file);
+        EXPECT_EQ(Indented(text) + "\n", text);
+    }
+}
+
+TEST(JsonDocuments, CompactFormHasNoWhitespaceOutsideStrings)
+{
+    const std::string compact = Json::ToJson(Json::FromJson<Stream>(ReadFile("stream.json")));
+    EXPECT_EQ(compact.find('\n'), std::string::npos);
+    EXPECT_EQ(compact.rfind("{\"schema\":{\"name\":\"Stream\",\"version\":1},\"objectId\":5,", 0), 0u);
+}
+
+TEST(JsonDocuments, StreamOverloadsWriteAndReadTheSameDocument)
+{
+    const std::string text = ReadFile("group-angles.json");
+    const auto group = Json::FromJson<std::shared_ptr<MediaAssetGroup>>(text);
+    std::ostringstream out;
+    Json::ToJson(out, *group);
+    EXPECT_EQ(out.str(), Json::ToJson(*group));
+    std::istringstream in(out.str());
+    EXPECT_EQ(*Json::FromJson<std::shared_ptr<MediaAssetGroup>>(in), *group);
+}
+
+// What is written once and referred to by JSON pointer comes back as one object.
+class JsonSharing : public ::testing::Test {
+protected:
+    JsonSharing() : asset(Json::FromJson<MediaAsset>(ReadFile("asset-full.json"))) {}
+    const Track& TrackNamed(const char* id) const
+    {
+        for (const auto& track : asset.Tracks())
+            if (track->Id() == TrackId(id))
+                return *track;
+        throw std::logic_error("no track");
+    }
+    MediaAsset asset;
+};
+
+TEST_F(JsonSharing, TrackChannelsShareTheStreamOfTheResource)
+{
+    const auto& resourceStream = asset.MediaResources().Front().Value().Streams().front().Pointer();
+    const Track& audio = TrackNamed("track-audio");
+    EXPECT_EQ(audio.Channels()[0]->Stream().Pointer(), resourceStream);
+    EXPECT_EQ(audio.Channels()[1]->Stream().Pointer(), resourceStream);
+    EXPECT_EQ(TrackNamed("track-video").Channels()[0]->Stream().Pointer(), resourceStream);
+}
+
+TEST_F(JsonSharing, StreamWrittenInAChannelIsSharedByTheNextChannelAndIdOnlyStaysIdOnly)
+{
+    const Track& proxy = TrackNamed("track-proxy");
+    ASSERT_TRUE(proxy.Channels()[0]->Stream().Pointer());
+    EXPECT_EQ(proxy.Channels()[1]->Stream().Pointer(), proxy.Channels()[0]->Stream().Pointer());
+    EXPECT_FALSE(proxy.Channels()[2]->Stream().Pointer());
+    EXPECT_EQ(proxy.Channels()[2]->Stream().Id(), StreamId("stream-remote"));
+}
+
+TEST_F(JsonSharing, EssencesShareTimecodeTablesAcrossStreams)
+{
+    const Stream& stream = *asset.MediaResources().Front().Value().Streams().front().Pointer();
+    const auto& table = stream.Essences()[0].Timecodes()[0];
+    EXPECT_EQ(stream.Essences()[1].Timecodes()[0], table);
+    const Stream& proxy = *TrackNamed("track-proxy").Channels()[0]->Stream().Pointer();
+    EXPECT_EQ(proxy.Essences()[0].Timecodes()[0], table);
+}
+
+TEST_F(JsonSharing, LayoutItemsPointAtTheAssetsOwnTracks)
+{
+    const TrackLayoutItem& sound = asset.TrackLayouts().Front()->TrackLayoutItems()[1];
+    ASSERT_EQ(sound.Tracks().Size(), 2u);
+    EXPECT_EQ(sound.Tracks()[0].lock().get(), &TrackNamed("track-audio"));
+    EXPECT_EQ(sound.Tracks()[1].lock().get(), &TrackNamed("track-proxy"));
+}
+
+TEST_F(JsonSharing, UnknownProfileIsKeptAsItsTextAndWrittenBackByteIdentical)
+{
+    const Stream& stream = *asset.MediaResources().Front().Value().Streams().front().Pointer();
+    const auto* raw = dynamic_cast<const Json::RawMetadataProfile*>(&stream.Metadata().At(FullyQualifiedName("vendor.technical")));
+    ASSERT_NE(raw, nullptr);
+    const std::string compact = "{\"probe\":{\"tool\":\"x\",\"passes\":[1,2,3]},\"ok\":true}";
+    Stream copy = stream.Clone();
+    copy.Metadata().Clear();
+    copy.Metadata().Set(std::make_shared<Json::RawMetadataProfile>(FullyQualifiedName("vendor.technical"), compact));
+    const std::string written = Json::ToJson(copy);
+    EXPECT_NE(written.find("\"vendor.technical\":" + compact), std::string::npos);
+    const Stream read = Json::FromJson<Stream>(written);
+    EXPECT_EQ(read.Metadata().At(FullyQualifiedName("vendor.technical")).ToString(), compact);
+}

@@ -1,0 +1,170 @@
+// Bad input to FromJson and objects that ToJson cannot write: one exception type, JsonError,
+// whose message names the JSON pointer and what was expected.
+
+#include "TestProfiles.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
+#include <Orvik/DataModel/MediaAssets/Json.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+using namespace Orvik::DataModel::MediaAssets;
+using ::testing::StrEq;
+using ::testing::ThrowsMessage;
+
+namespace {
+
+// The compact document of tests/data/stream.json, which each case below changes in one place.
+constexpr char kStream[] =
+    R"({"schema":{"name":"Stream","version":1},"objectId":5,"streamId":"stream-alone","format":"QuickTime",)"
+    R"("timebounds":{"inBoundary":{"timePoint":-9223372036854775807,"isMoving":false},)"
+    R"("outBoundary":{"timePoint":-9223372036854775807,"isMoving":false},"elements":[]},"metadata":{},)"
+    R"("essences":[{"type":"Audio","objectId":1,"metadata":{},"channelCount":1,"nr":0,)"
+    R"("trackChannels":[{"trackId":"t","channelNr":1}],"timecodes":[{"fqn":"tc.a","standard":"smpte.ntsc.30.drop",)"
+    R"("type":"LTC","timeCodeJumpItems":[{"timePoint":0,"timeCode":"01:00:00;00","duration":100}]}],)"
+    R"("audioCodec":"PCM","bitRate":1536000,"bitRateMode":"cbr","sampleRate":{"numerator":48000,"denominator":1},)"
+    R"("bitDepth":24,"fourCC":"lpcm"},{"type":"Audio","objectId":2,"metadata":{},"channelCount":0,"nr":1,)"
+    R"("trackChannels":[],"timecodes":["/essences/0/timecodes/0"],"audioCodec":"PCM","bitRate":1536000,)"
+    R"("bitRateMode":"cbr","sampleRate":{"numerator":48000,"denominator":1},"bitDepth":24,"fourCC":"lpcm"}],)"
+    R"("locations":[{"type":"ZanLocation","serverId":120,"sequenceId":"A7F3"}]})";
+
+std::string Changed(const std::string& from, const std::string& to)
+{
+    std::string document = kStream;
+    const size_t at = document.find(from);
+    if (at == std::string::npos)
+        throw std::logic_error("no " + from);
+    return document.replace(at, from.size(), to);
+}
+
+std::string Nested(int depth)
+{
+    return Changed(R"("metadata":{},"essences")",
+                   R"("metadata":{"vendor.deep":{"a":)" + std::string(depth, '[') + std::string(depth, ']')
+                       + R"(}},"essences")");
+}
+
+struct BadInput {
+    const char* what;
+    std::string document;
+    const char* path;
+    const char* message;
+};
+
+}  // namespace
+
+TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
+{
+    const BadInput cases[] = {
+        {"malformed", Changed(R"("nr":0,)", R"("nr":0,,)"), "/essences/0",
+         R"(/essences/0: expected a member, found malformed JSON (The JSON document has an improper structure: missing or superfluous commas, braces, missing keys, etc.))"},
+        {"truncated", std::string(kStream).substr(0, 200), "",
+         R"((root): expected a JSON document, found malformed JSON (A string is opened, but never closed.))"},
+        {"not an object", "[1,2]", "",
+         R"((root): expected an object, found an array)"},
+        {"trailing text", std::string(kStream) + "{}", "",
+         R"((root): expected the end of the document, found more text)"},
+        {"wrong type", Changed(R"("bitDepth":24,"fourCC":"lpcm"},{)", R"("bitDepth":"24","fourCC":"lpcm"},{)"), "/essences/0/bitDepth",
+         R"(/essences/0/bitDepth: expected an integer, found a string)"},
+        {"fraction", Changed(R"("channelCount":0)", R"("channelCount":0.5)"), "/essences/1/channelCount",
+         R"(/essences/1/channelCount: expected an integer, found 0.5)"},
+        {"missing member", Changed(R"(,"fourCC":"lpcm"}])", "}]"), "/essences/1",
+         R"(/essences/1: expected member "fourCC")"},
+        {"unexpected member", Changed(R"("nr":1,)", R"("nr":1,"colour":2,)"), "/essences/1/colour",
+         R"(/essences/1/colour: expected no member of this name)"},
+        {"duplicate member", Changed(R"("format":"QuickTime",)", R"("format":"QuickTime","format":"QuickTime",)"), "/format",
+         R"(/format: expected one member of this name, found a second)"},
+        {"unknown enumeration text", Changed(R"("bitRateMode":"cbr","sampleRate":{"numerator":48000,"denominator":1},"bitDepth":24,"fourCC":"lpcm"}])", R"("bitRateMode":"CBR","sampleRate":{"numerator":48000,"denominator":1},"bitDepth":24,"fourCC":"lpcm"}])"), "/essences/1/bitRateMode",
+         R"(/essences/1/bitRateMode: expected a BitRateMode text, found "CBR")"},
+        {"unknown kind", Changed(R"("type":"ZanLocation")", R"("type":"TapeLocation")"), "/locations/0/type",
+         R"(/locations/0/type: expected "FileLocation", "ZanLocation", "DaxContentTrackLocation" or "DaxProtectLocation", found "TapeLocation")"},
+        {"kind not first", Changed(R"({"type":"ZanLocation","serverId":120,)", R"({"serverId":120,"type":"ZanLocation",)"), "/locations/0/type",
+         R"(/locations/0/type: expected member "type" first, found "serverId")"},
+        {"integer out of 32 bits", Changed(R"("denominator":1},"bitDepth":24,"fourCC":"lpcm"}])", R"("denominator":4294967296},"bitDepth":24,"fourCC":"lpcm"}])"), "/essences/1/sampleRate/denominator",
+         R"(/essences/1/sampleRate/denominator: expected an integer from -2147483648 to 2147483647, found 4294967296)"},
+        {"integer out of 64 bits", Changed(R"("objectId":5)", R"("objectId":9223372036854775808)"), "/objectId",
+         R"(/objectId: expected an integer, found 9223372036854775808)"},
+        {"dangling reference", Changed(R"("/essences/0/timecodes/0")", R"("/essences/1/timecodes/0")"), "/essences/1/timecodes/0",
+         R"(/essences/1/timecodes/0: expected a JSON pointer to a timecode table written earlier in the document, found "/essences/1/timecodes/0")"},
+        {"bad timecode text", Changed(R"("01:00:00;00")", R"("25:00:00:00")"), "/essences/0/timecodes/0/timeCodeJumpItems/0/timeCode",
+         R"(/essences/0/timecodes/0/timeCodeJumpItems/0/timeCode: expected a timecode text such as "10:00:00:00" or "23:59:59;29", or "", found "25:00:00:00")"},
+        {"unsupported schema name", Changed(R"("name":"Stream")", R"("name":"MediaAsset")"), "/schema/name",
+         R"(/schema/name: expected "Stream", found "MediaAsset")"},
+        {"unsupported version", Changed(R"("version":1)", R"("version":2)"), "/schema/version",
+         R"(/schema/version: expected version 1, found 2)"},
+        {"no schema first", Changed(R"({"schema":{"name":"Stream","version":1},)", R"({)"), "",
+         R"((root): expected member "schema" first, found "objectId")"},
+        {"deep nesting", Nested(500), "/metadata/vendor.deep",
+         R"(/metadata/vendor.deep: expected a JSON object nested at most 100 levels deep)"},
+        {"nesting past the parser", Nested(2000), "/metadata/vendor.deep",
+         R"(/metadata/vendor.deep: expected a JSON object nested at most 100 levels deep)"},
+        {"invalid UTF-8", Changed(R"("A7F3")", "\"A7\xC3\x28\""), "",
+         R"((root): expected a JSON document, found malformed JSON (The input is not valid UTF-8))"},
+    };
+    for (const BadInput& bad : cases) {
+        SCOPED_TRACE(bad.what);
+        try {
+            Json::FromJson<Stream>(bad.document);
+            ADD_FAILURE() << "accepted";
+        } catch (const Json::JsonError& error) {
+            EXPECT_STREQ(error.what(), bad.message);
+            EXPECT_EQ(error.Path(), bad.path);
+        }
+    }
+}
+
+TEST(JsonBadInput, SchemaNameNeedsTheSchemaMemberFirst)
+{
+    EXPECT_EQ(Json::SchemaName(kStream), "Stream");
+    EXPECT_THAT([] { Json::SchemaName(R"({"objectId":1})"); },
+                ThrowsMessage<Json::JsonError>(StrEq(R"((root): expected member "schema" first, found "objectId")")));
+}
+
+TEST(JsonWriteErrors, ProfileWithoutCodecIsRefusedAndNothingIsWritten)
+{
+    MediaAsset asset(MediaAssetId("a"));
+    asset.Metadata().Set(std::make_shared<TestProfile>(1));
+    std::ostringstream out;
+    EXPECT_THAT([&] { Json::ToJson(out, asset); },
+                ThrowsMessage<Json::JsonError>(StrEq("/metadata/test.profile: expected a metadata profile whose name has a "
+                                                     "registered JSON codec, found none for \"test.profile\"")));
+    EXPECT_TRUE(out.str().empty());
+}
+
+TEST(JsonWriteErrors, OperatorProfileOfAnotherClassIsRefused)
+{
+    MediaAsset asset(MediaAssetId("a"));
+    asset.Metadata().Set(std::make_shared<OtherProfile>());
+    EXPECT_THAT([&] { Json::ToJson(asset); },
+                ThrowsMessage<Json::JsonError>(StrEq("/metadata/orvik.pelkoperator: expected an operator profile of a "
+                                                     "class with a JSON form, found another class")));
+}
+
+TEST(JsonWriteErrors, TextThatIsNotUtf8IsRefusedAtItsPath)
+{
+    MediaResource resource(MediaResourceId("r"));
+    auto stream = std::make_unique<Stream>(StreamId("s"));
+    stream->Locations().Add(std::make_unique<ZanLocation>(ZanServerId(120), "A\xFF"));
+    resource.Adopt(std::move(stream));
+    EXPECT_THAT([&] { Json::ToJson(resource); },
+                ThrowsMessage<Json::JsonError>(StrEq("/streams/0/pointer/locations/0/sequenceId: expected text in UTF-8, "
+                                                     "found invalid bytes")));
+}
+
+TEST(JsonWriteErrors, LayoutItemShowingATrackTheAssetDoesNotHoldIsRefused)
+{
+    MediaAsset asset(MediaAssetId("a"));
+    const auto foreign = std::make_shared<Track>(TrackId("t"), "elsewhere");
+    TrackLayoutItem item(Identifier("item"));
+    item.Tracks().Insert(foreign);
+    auto layout = std::make_shared<TrackLayout>(Identifier("layout"));
+    layout->TrackLayoutItems().Insert(item);
+    asset.TrackLayouts().Insert(layout);
+    EXPECT_THAT([&] { Json::ToJson(asset); },
+                ThrowsMessage<Json::JsonError>(StrEq("/trackLayouts/0/trackLayoutItems/0/tracks/0: expected one of the "
+                                                     "asset's tracks, found a track that the asset does not hold")));
+}
