@@ -358,15 +358,10 @@ TreeNode AnnotationTree(const Annotation& annotation)
 
 TreeNode ItemTree(const MediaAssetGroupItem& item)
 {
-    const MediaAssetReference& asset = item.MediaAsset();
-    TreeNode node;
+    const std::string& assetId = item.MediaAsset().Id().Value();
     if (const auto* angle = dynamic_cast<const AnglesMediaAssetGroupItem*>(&item))
-        node = Object("angle", {Text(angle->Name() + "  asset "), IdSpan(asset.Id().Value())});
-    else
-        node = Object("item", {Text("asset "), IdSpan(asset.Id().Value())});
-    if (asset.Pointer())
-        node.children.push_back(AssetTree(*asset.Pointer()));
-    return node;
+        return Object("angle", {Text(angle->Name() + "  asset "), IdSpan(assetId)});
+    return Object("item", {Text("asset "), IdSpan(assetId)});
 }
 
 }  // namespace

@@ -23,8 +23,8 @@ namespace Orvik::AssetTool {
 /// `orvik-asset validate` shows what it holds.
 TreeNode AssetTree(const DataModel::MediaAssets::MediaAsset& asset);
 
-/// The group in the same way: its fields, metadata and items (with their angles' names), and
-/// the tree of each asset that an item holds loaded.
+/// The group in the same way: its fields, metadata and items (the ids of their assets, with the
+/// names of the angles).
 TreeNode GroupTree(const DataModel::MediaAssets::MediaAssetGroup& group);
 
 }  // namespace Orvik::AssetTool

@@ -58,17 +58,19 @@ public:
 
     void CheckAsset(const MediaAsset& asset, const JsonPointer& at)
     {
+        // In the order of the document, which writes the resources (and the streams that track
+        // channels share with them) before the tracks.
         const AssetContext context = ContextOf(asset);
         CheckTimeBounds(asset.PhysicalTimebounds(), at / "physicalTimebounds");
         CheckMetadata(asset.Metadata(), at / "metadata");
-        CheckTracks(context, at / "tracks");
-        CheckLayouts(context, at / "trackLayouts");
         size_t index = 0;
         for (const MediaResourceReference& resource : asset.MediaResources()) {
             if (resource.Pointer())
-                CheckResource(*resource.Pointer(), context, at / "mediaResources" / index);
+                CheckResource(*resource.Pointer(), context, at / "mediaResources" / index / "pointer");
             ++index;
         }
+        CheckTracks(context, at / "tracks");
+        CheckLayouts(context, at / "trackLayouts");
         index = 0;
         for (const auto& annotation : asset.Annotations()) {
             if (annotation)
@@ -82,14 +84,9 @@ public:
         CheckMetadata(group.Metadata(), at / "metadata");
         size_t index = 0;
         for (const auto& item : group.Items()) {
-            const JsonPointer itemAt = at / "items" / index++;
-            if (!item)
-                continue;
-            const MediaAssetReference& asset = item->MediaAsset();
-            if (asset.Pointer())
-                CheckAsset(*asset.Pointer(), itemAt / "mediaAsset");
-            else if (asset.Id().IsEmpty())
-                Add(itemAt / "mediaAsset", "the item refers to no asset");
+            if (item && item->MediaAsset().Id().IsEmpty())
+                Add(at / "items" / index / "mediaAsset", "the item refers to no asset");
+            ++index;
         }
     }
 
@@ -162,57 +159,52 @@ private:
                         + " is not positive: the timecode cannot be read as a clock");
     }
 
-    /// A problem for each element whose id an earlier element already has.
-    template <typename Collection, typename IdOf>
-    void CheckDuplicateIds(const Collection& elements, IdOf idOf, const JsonPointer& at, const char* idMember,
-                      const std::string& what)
+    /// The ids met so far in one collection, each with the pointer of the element that has it.
+    using SeenIds = std::map<std::string, JsonPointer>;
+
+    /// A problem at `problemAt` when an earlier element of the collection, at its place in
+    /// `seen`, has the id of the element at `elementAt` already.
+    void CheckId(SeenIds& seen, const std::string& id, const JsonPointer& elementAt, const JsonPointer& problemAt,
+                 const char* what)
     {
-        std::map<std::string, size_t> first;
-        size_t index = 0;
-        for (const auto& element : elements) {
-            const std::string& id = idOf(element);
-            const auto [found, inserted] = first.emplace(id, index);
-            if (!inserted)
-                Add(at / index / idMember,
-                    what + " " + Quoted(id) + " occurs again (first at " + (at / found->second).Text() + ")");
-            ++index;
-        }
+        const auto [found, inserted] = seen.emplace(id, elementAt);
+        if (!inserted)
+            Add(problemAt, std::string(what) + " " + Quoted(id) + " occurs again (first at " + found->second.Text() + ")");
     }
 
     void CheckTracks(const AssetContext& context, const JsonPointer& at)
     {
-        const auto& tracks = context.asset.Tracks();
-        CheckDuplicateIds(tracks, [](const auto& track) -> const std::string& { return track->Id().Value(); }, at, "id",
-                     "track id");
+        SeenIds seen;
         size_t index = 0;
-        for (const auto& track : tracks) {
+        for (const auto& track : context.asset.Tracks()) {
+            const JsonPointer trackAt = at / index++;
+            CheckId(seen, track->Id().Value(), trackAt, trackAt / "id", "track id");
             size_t channelIndex = 0;
             for (const auto& channel : track->Channels()) {
-                const JsonPointer streamAt = at / index / "channels" / channelIndex++ / "stream";
+                const JsonPointer streamAt = trackAt / "channels" / channelIndex++ / "stream" / "id";
                 const std::string& streamId = channel->Stream().Id().Value();
                 if (streamId.empty())
                     Add(streamAt, "the channel names no stream");
                 else if (context.streamIds && context.streamIds->count(streamId) == 0)
                     Add(streamAt, "stream " + Quoted(streamId) + " is not a stream of the asset's media resources");
             }
-            ++index;
         }
     }
 
     void CheckLayouts(const AssetContext& context, const JsonPointer& at)
     {
-        const auto& layouts = context.asset.TrackLayouts();
-        CheckDuplicateIds(layouts, [](const auto& layout) -> const std::string& { return layout->Id().Value(); }, at, "id",
-                     "layout id");
+        SeenIds seenLayouts;
         size_t index = 0;
-        for (const auto& layout : layouts) {
-            const JsonPointer itemsAt = at / index++ / "trackLayoutItems";
-            const auto& items = layout->TrackLayoutItems();
-            CheckDuplicateIds(items, [](const TrackLayoutItem& item) -> const std::string& { return item.Id().Value(); },
-                         itemsAt, "id", "item id");
+        for (const auto& layout : context.asset.TrackLayouts()) {
+            const JsonPointer layoutAt = at / index++;
+            CheckId(seenLayouts, layout->Id().Value(), layoutAt, layoutAt / "id", "layout id");
+            SeenIds seenItems;
             size_t itemIndex = 0;
-            for (const TrackLayoutItem& item : items)
-                CheckItemTracks(item, context, itemsAt / itemIndex++ / "tracks");
+            for (const TrackLayoutItem& item : layout->TrackLayoutItems()) {
+                const JsonPointer itemAt = layoutAt / "trackLayoutItems" / itemIndex++;
+                CheckId(seenItems, item.Id().Value(), itemAt, itemAt / "id", "item id");
+                CheckItemTracks(item, context, itemAt / "tracks");
+            }
         }
     }
 
@@ -239,14 +231,15 @@ private:
 
     void CheckResource(const MediaResource& resource, const AssetContext& context, const JsonPointer& at)
     {
-        CheckTimeBounds(resource.Timebounds(), at / "timebounds");
-        CheckMetadata(resource.Metadata(), at / "metadata");
         size_t index = 0;
         for (const StreamReference& stream : resource.Streams()) {
-            if (stream.Pointer())
-                CheckStream(*stream.Pointer(), context, at / "streams" / index);
+            // A stream that two resources share is written, and checked, once.
+            if (stream.Pointer() && checkedStreams.insert(stream.Pointer().get()).second)
+                CheckStream(*stream.Pointer(), context, at / "streams" / index / "pointer");
             ++index;
         }
+        CheckTimeBounds(resource.Timebounds(), at / "timebounds");
+        CheckMetadata(resource.Metadata(), at / "metadata");
     }
 
     void CheckStream(const Stream& stream, const AssetContext& context, const JsonPointer& at)
@@ -275,23 +268,27 @@ private:
                     "track " + Quoted(trackId) + " is not a track of the asset");
             ++index;
         }
-        const auto& tables = essence.Timecodes();
-        CheckDuplicateIds(tables, [](const auto& table) -> const std::string& { return table->FullyQualifiedName().Value(); },
-                     at / "timecodes", "fullyQualifiedName", "timecode table name");
+        SeenIds seenTables;
         index = 0;
-        for (const auto& table : tables) {
+        for (const auto& table : essence.Timecodes()) {
+            // A table that essences share is written where it first occurs, and a pointer to it
+            // elsewhere: a repeated name is reported at the element, its contents once.
+            const JsonPointer tableAt = at / "timecodes" / index++;
+            CheckId(seenTables, table->FullyQualifiedName().Value(), tableAt, tableAt, "timecode table name");
+            if (!checkedTables.insert(table.get()).second)
+                continue;
             size_t jumpIndex = 0;
             for (const auto& jump : table->TimeCodeJumpItems()) {
                 if (jump->TimeCode().IsEmpty())
-                    Add(at / "timecodes" / index / "timeCodeJumpItems" / jumpIndex / "timeCode",
-                        "the timecode jump has no timecode text");
+                    Add(tableAt / "timeCodeJumpItems" / jumpIndex / "timeCode", "the timecode jump has no timecode text");
                 ++jumpIndex;
             }
-            ++index;
         }
     }
 
     std::vector<Problem> problems;
+    std::set<const Stream*> checkedStreams;
+    std::set<const TimeCodeTable*> checkedTables;
 };
 
 }  // namespace

@@ -12,7 +12,8 @@
 namespace Orvik::AssetTool {
 
 /// The problems of `asset`, in document order, each with the JSON pointer of the offending
-/// member in the asset's JSON document:
+/// member in the asset's JSON document (a stream or timecode table that several places share is
+/// checked where the document writes it, its first place):
 /// - time bounds (of the asset, its resources and their streams) that are not valid: stretches
 ///   that overlap, an in boundary not before the out boundary, an in or out boundary outside
 ///   every stretch;
@@ -29,8 +30,7 @@ namespace Orvik::AssetTool {
 ///   is not one of the asset's tracks.
 std::vector<Problem> Validate(const DataModel::MediaAssets::MediaAsset& asset);
 
-/// The problems of `group`: those of its operator profiles, items that refer to no asset, and
-/// those of every asset an item holds loaded (under that item's pointer).
+/// The problems of `group`: those of its operator profiles, and items that refer to no asset.
 std::vector<Problem> Validate(const DataModel::MediaAssets::MediaAssetGroup& group);
 
 }  // namespace Orvik::AssetTool
