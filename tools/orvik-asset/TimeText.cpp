@@ -56,11 +56,16 @@ std::string BoundaryText(const TimeBoundary& boundary)
     return TimePointText(boundary.TimePoint()) + (boundary.IsMoving() ? " (moving)" : "");
 }
 
+bool HasClock(const Timecode& timecode)
+{
+    return timecode.Rate().Numerator() > 0 && timecode.Rate().Denominator() > 0;
+}
+
 std::string TimecodeText(const Timecode& timecode)
 {
     const auto& rate = timecode.Rate();
     const std::string rateText = " @ " + std::to_string(rate.Numerator()) + "/" + std::to_string(rate.Denominator());
-    if (rate.Numerator() <= 0 || rate.Denominator() <= 0)
+    if (!HasClock(timecode))
         return "sample " + std::to_string(timecode.TotalSample()) + rateText;
     std::string text;
     if (timecode.HasDate())

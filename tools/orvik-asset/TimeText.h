@@ -21,6 +21,9 @@ std::string TimePointText(const DataModel::MediaAssets::TimePoint& timePoint);
 /// moving boundary.
 std::string BoundaryText(const DataModel::MediaAssets::TimeBoundary& boundary);
 
+/// True when the timecode's rate is positive, which reading it as a clock requires.
+bool HasClock(const DataModel::MediaAssets::Timecode& timecode);
+
 /// "HH:MM:SS:FF @ 25/1", with ";" before the frames of a drop-frame timecode and the date first
 /// ("2024-05-01 10:00:00:00 @ 25/1") when the timecode has one. A timecode whose rate is not
 /// positive cannot be read as a clock: "sample 12 @ 0/1".

@@ -153,9 +153,9 @@ private:
 
     void CheckTimecode(const Timecode& timecode, const JsonPointer& at)
     {
-        const auto& rate = timecode.Rate();
-        if (timecode != Timecode() && (rate.Numerator() <= 0 || rate.Denominator() <= 0))
-            Add(at, "rate " + std::to_string(rate.Numerator()) + "/" + std::to_string(rate.Denominator())
+        if (timecode != Timecode() && !HasClock(timecode))
+            Add(at, "rate " + std::to_string(timecode.Rate().Numerator()) + "/"
+                        + std::to_string(timecode.Rate().Denominator())
                         + " is not positive: the timecode cannot be read as a clock");
     }
 
