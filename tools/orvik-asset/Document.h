@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DocumentError.h"
 #include "Problem.h"
 #include "TreeNode.h"
 
@@ -9,20 +10,12 @@
 
 #include <memory>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
 namespace Orvik::AssetTool {
-
-/// A document that is not an asset or group document of this library. The message says why,
-/// without the name of the file.
-class DocumentError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// What the tool works on: an asset or a group read from its JSON document (the schema name of
 /// the document tells which), or built in memory.

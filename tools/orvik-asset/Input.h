@@ -1,17 +1,11 @@
 #pragma once
 
+#include "InputError.h"
+
 #include <istream>
-#include <stdexcept>
 #include <string>
 
 namespace Orvik::AssetTool {
-
-/// A file that cannot be read. The message names the file and the reason
-/// ("missing.json: cannot open: No such file or directory").
-class InputError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// The whole content of the file `name`, or of `standardInput` when `name` is "-". Throws
 /// InputError when the file cannot be opened or read.
