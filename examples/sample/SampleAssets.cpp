@@ -12,10 +12,7 @@ namespace {
 
 constexpr int64_t kSecond = 1000000000;
 
-TimeBoundary At(int64_t seconds)
-{
-    return TimeBoundary(TimePoint(seconds * kSecond), false);
-}
+TimeBoundary At(int64_t seconds) { return TimeBoundary(TimePoint(seconds * kSecond), false); }
 
 std::unique_ptr<Stream> MakeHighResolutionStream()
 {
@@ -69,8 +66,7 @@ AnglesMediaAssetGroup MakeSampleGroup()
         std::make_shared<AnglesMediaAssetGroupItem>("Main", MediaAssetReference(MediaAssetId("asset-goal-0815"))));
     group.Items().push_back(std::make_shared<AnglesMediaAssetGroupItem>(
         "Reverse", MediaAssetReference(MediaAssetId("asset-goal-0815-reverse"))));
-    group.Metadata().Set(
-        std::make_shared<AnglesPelkOperatorMetadataProfile>(PelkId(ZanServerId(120), 1, 2, 3)));
+    group.Metadata().Set(std::make_shared<AnglesPelkOperatorMetadataProfile>(PelkId(ZanServerId(120), 1, 2, 3)));
     return group;
 }
 

@@ -128,8 +128,10 @@ TEST(ShowTree, ArbitraryObjectsPrintWithoutControlCharacters)
 
 TEST(ShowTree, ColourPaintsObjectLabelsAndValuesByTone)
 {
-    const TreeNode tree{"stream", {{"s1", Orvik::AssetTool::Tone::Id}},
-                        {TreeNode{"format", {{"MXFOP1a", Orvik::AssetTool::Tone::Keyword}}, {}, false}}, true};
+    const TreeNode tree{"stream",
+                        {{"s1", Orvik::AssetTool::Tone::Id}},
+                        {TreeNode{"format", {{"MXFOP1a", Orvik::AssetTool::Tone::Keyword}}, {}, false}},
+                        true};
     std::ostringstream out;
     PrintTree(out, tree, true);
     EXPECT_EQ(out.str(), "\x1b[1mstream\x1b[0m \x1b[36ms1\x1b[0m\n  format  \x1b[32mMXFOP1a\x1b[0m\n");

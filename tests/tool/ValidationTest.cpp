@@ -1,5 +1,5 @@
-#include "JsonPointer.h"
 #include "Validation.h"
+#include "JsonPointer.h"
 
 #include <ArbitraryObjects.h>
 #include <Orvik/DataModel/MediaAssets.h>
@@ -19,15 +19,9 @@ using ::testing::IsEmpty;
 
 namespace Orvik::AssetTool {
 
-bool operator==(const Problem& a, const Problem& b)
-{
-    return a.path == b.path && a.message == b.message;
-}
+bool operator==(const Problem& a, const Problem& b) { return a.path == b.path && a.message == b.message; }
 
-void PrintTo(const Problem& problem, std::ostream* out)
-{
-    *out << problem.path << ": " << problem.message;
-}
+void PrintTo(const Problem& problem, std::ostream* out) { *out << problem.path << ": " << problem.message; }
 
 }  // namespace Orvik::AssetTool
 
@@ -35,10 +29,7 @@ namespace {
 
 constexpr int64_t kSecond = 1000000000;
 
-TimeBoundary At(int64_t seconds)
-{
-    return TimeBoundary(TimePoint(seconds * kSecond), false);
-}
+TimeBoundary At(int64_t seconds) { return TimeBoundary(TimePoint(seconds * kSecond), false); }
 
 TEST(Validation, SampleObjectsAreValid)
 {
@@ -75,15 +66,15 @@ TEST(Validation, ClipIdentifiersAndSerialNumbersOutOfRangeNameTheirField)
     profile->ServerId(ZanServerId(125));
     profile->UserTimecode(Timecode(Orvik::TimePoints::Rate(0, 1), 5, false, false));
     asset.Metadata().Set(profile);
-    EXPECT_THAT(Validate(asset),
-                ElementsAre(Problem{"/metadata/orvik.pelkoperator/page", "page 10 is not 0 to 9"},
-                            Problem{"/metadata/orvik.pelkoperator/bank", "bank 0 is not 1 to 9"},
-                            Problem{"/metadata/orvik.pelkoperator/clip", "clip -1 is not 0 to 9"},
-                            Problem{"/metadata/orvik.pelkoperator/camera", "camera 'M' is not 'A' to 'L'"},
-                            Problem{"/metadata/orvik.pelkoperator/serverId",
-                                    "serial number 125 is not a positive multiple of 10"},
-                            Problem{"/metadata/orvik.pelkoperator/userTimecode",
-                                    "rate 0/1 is not positive: the timecode cannot be read as a clock"}));
+    EXPECT_THAT(
+        Validate(asset),
+        ElementsAre(Problem{"/metadata/orvik.pelkoperator/page", "page 10 is not 0 to 9"},
+                    Problem{"/metadata/orvik.pelkoperator/bank", "bank 0 is not 1 to 9"},
+                    Problem{"/metadata/orvik.pelkoperator/clip", "clip -1 is not 0 to 9"},
+                    Problem{"/metadata/orvik.pelkoperator/camera", "camera 'M' is not 'A' to 'L'"},
+                    Problem{"/metadata/orvik.pelkoperator/serverId", "serial number 125 is not a positive multiple of 10"},
+                    Problem{"/metadata/orvik.pelkoperator/userTimecode",
+                            "rate 0/1 is not positive: the timecode cannot be read as a clock"}));
 
     auto stream = std::make_unique<Stream>(StreamId("s"));
     stream->Locations().Add(ZanLocation(ZanServerId(0), "A7F3"));
@@ -91,8 +82,9 @@ TEST(Validation, ClipIdentifiersAndSerialNumbersOutOfRangeNameTheirField)
     resource->Adopt(std::move(stream));
     MediaAsset located;
     located.MediaResources().Insert(MediaResourceReference(resource));
-    EXPECT_THAT(Validate(located), ElementsAre(Problem{"/mediaResources/0/pointer/streams/0/pointer/locations/0/serverId",
-                                                       "serial number 0 is not a positive multiple of 10"}));
+    EXPECT_THAT(Validate(located),
+                ElementsAre(Problem{"/mediaResources/0/pointer/streams/0/pointer/locations/0/serverId",
+                                    "serial number 0 is not a positive multiple of 10"}));
 }
 
 TEST(Validation, DuplicateIdsPointBackAtTheFirst)
@@ -115,11 +107,12 @@ TEST(Validation, DuplicateIdsPointBackAtTheFirst)
     asset.MediaResources().Insert(MediaResourceReference(resource));
 
     const std::string tables = "/mediaResources/0/pointer/streams/0/pointer/essences/0/timecodes/";
-    EXPECT_THAT(Validate(asset),
-                ElementsAre(Problem{tables + "0/timeCodeJumpItems/0/timeCode", "the timecode jump has no timecode text"},
-                            Problem{tables + "1", "timecode table name \"timecode.main\" occurs again (first at " + tables + "0)"},
-                            Problem{tables + "1/timeCodeJumpItems/0/timeCode", "the timecode jump has no timecode text"},
-                            Problem{"/tracks/1/id", "track id \"t\" occurs again (first at /tracks/0)"}));
+    EXPECT_THAT(
+        Validate(asset),
+        ElementsAre(Problem{tables + "0/timeCodeJumpItems/0/timeCode", "the timecode jump has no timecode text"},
+                    Problem{tables + "1", "timecode table name \"timecode.main\" occurs again (first at " + tables + "0)"},
+                    Problem{tables + "1/timeCodeJumpItems/0/timeCode", "the timecode jump has no timecode text"},
+                    Problem{"/tracks/1/id", "track id \"t\" occurs again (first at /tracks/0)"}));
 }
 
 class DanglingReferences : public ::testing::Test {
@@ -158,13 +151,13 @@ protected:
 TEST_F(DanglingReferences, NameTheMissingStreamTrackOrTrackObject)
 {
     const std::string essence = "/mediaResources/0/pointer/streams/0/pointer/essences/0";
-    EXPECT_THAT(Validate(asset),
-                ElementsAre(Problem{essence + "/trackChannels/1/trackId", "track \"elsewhere\" is not a track of the asset"},
-                            Problem{"/tracks/0/channels/1/stream/id",
-                                    "stream \"missing\" is not a stream of the asset's media resources"},
-                            Problem{"/tracks/0/channels/2/stream/id", "the channel names no stream"},
-                            Problem{"/trackLayouts/0/trackLayoutItems/0/tracks/1",
-                                    "track \"u\" is not one of the asset's tracks"}));
+    EXPECT_THAT(
+        Validate(asset),
+        ElementsAre(
+            Problem{essence + "/trackChannels/1/trackId", "track \"elsewhere\" is not a track of the asset"},
+            Problem{"/tracks/0/channels/1/stream/id", "stream \"missing\" is not a stream of the asset's media resources"},
+            Problem{"/tracks/0/channels/2/stream/id", "the channel names no stream"},
+            Problem{"/trackLayouts/0/trackLayoutItems/0/tracks/1", "track \"u\" is not one of the asset's tracks"}));
 
     foreign.reset();
     asset.MediaResources().Insert(MediaResourceReference(MediaResourceId("unloaded")));

@@ -11,9 +11,9 @@ namespace Orvik::AssetTool {
 
 /// The exit status of the tool, which scripts read as its answer, as diff(1) does.
 enum ExitStatus : int {
-    kSuccess = 0,   // done; valid; equal
-    kFound = 1,     // a file has problems; the documents differ
-    kTrouble = 2,   // a usage error, or input that cannot be read as a document
+    kSuccess = 0,  // done; valid; equal
+    kFound = 1,    // a file has problems; the documents differ
+    kTrouble = 2,  // a usage error, or input that cannot be read as a document
 };
 
 /// Where a command reads "-" from and writes its answer and its error lines to.

@@ -40,19 +40,13 @@ Document Document::Read(std::string_view text)
         return Document(Json::FromJson<MediaAsset>(text));
     if (schema == kGroupSchema)
         return Document(Json::FromJson<GroupPointer>(text));
-    throw DocumentError("expected the schema \"" + std::string(kAssetSchema) + "\" or \"" + kGroupSchema
-                        + "\", found \"" + schema + "\"");
+    throw DocumentError("expected the schema \"" + std::string(kAssetSchema) + "\" or \"" + kGroupSchema + "\", found \""
+                        + schema + "\"");
 }
 
-bool Document::IsGroup() const
-{
-    return std::holds_alternative<GroupPointer>(content);
-}
+bool Document::IsGroup() const { return std::holds_alternative<GroupPointer>(content); }
 
-const char* Document::SchemaName() const
-{
-    return IsGroup() ? kGroupSchema : kAssetSchema;
-}
+const char* Document::SchemaName() const { return IsGroup() ? kGroupSchema : kAssetSchema; }
 
 std::string Document::Json() const
 {

@@ -42,9 +42,6 @@ std::string ReadInput(const std::string& name, std::istream& standardInput)
     return ReadAll(file, name);
 }
 
-std::string InputName(const std::string& name)
-{
-    return name == kStandardInput ? "standard input" : name;
-}
+std::string InputName(const std::string& name) { return name == kStandardInput ? "standard input" : name; }
 
 }  // namespace Orvik::AssetTool

@@ -13,20 +13,11 @@ using namespace DataModel::MediaAssets;
 
 namespace {
 
-Span Text(std::string text)
-{
-    return Span{std::move(text), Tone::Plain};
-}
+Span Text(std::string text) { return Span{std::move(text), Tone::Plain}; }
 
-Span IdSpan(const std::string& id)
-{
-    return id.empty() ? Span{"(no id)", Tone::Faint} : Span{id, Tone::Id};
-}
+Span IdSpan(const std::string& id) { return id.empty() ? Span{"(no id)", Tone::Faint} : Span{id, Tone::Id}; }
 
-TreeNode Leaf(std::string label, std::vector<Span> value)
-{
-    return TreeNode{std::move(label), std::move(value), {}};
-}
+TreeNode Leaf(std::string label, std::vector<Span> value) { return TreeNode{std::move(label), std::move(value), {}}; }
 
 TreeNode Leaf(std::string label, std::string text, Tone tone)
 {
@@ -39,10 +30,7 @@ TreeNode Object(std::string label, std::vector<Span> value)
 }
 
 /// An object's line: its kind and its id.
-TreeNode Object(std::string label, const std::string& id)
-{
-    return Object(std::move(label), {IdSpan(id)});
-}
+TreeNode Object(std::string label, const std::string& id) { return Object(std::move(label), {IdSpan(id)}); }
 
 /// The line of a referenced object that is not loaded: its id alone.
 TreeNode NotLoaded(std::string label, const std::string& id)
@@ -51,10 +39,7 @@ TreeNode NotLoaded(std::string label, const std::string& id)
 }
 
 /// The line of a null pointer where an object should be.
-TreeNode Null(std::string label)
-{
-    return Object(std::move(label), {Span{"(null)", Tone::Faint}});
-}
+TreeNode Null(std::string label) { return Object(std::move(label), {Span{"(null)", Tone::Faint}}); }
 
 // The Add... helpers leave out a field at its default.
 
@@ -99,9 +84,8 @@ void AddBoundary(TreeNode& node, std::string label, const TimeBoundary& boundary
 void AddRate(TreeNode& node, std::string label, const Rate& rate)
 {
     if (rate != Rate::Empty())
-        node.children.push_back(Leaf(std::move(label),
-                                     std::to_string(rate.Numerator()) + "/" + std::to_string(rate.Denominator()),
-                                     Tone::Plain));
+        node.children.push_back(Leaf(
+            std::move(label), std::to_string(rate.Numerator()) + "/" + std::to_string(rate.Denominator()), Tone::Plain));
 }
 
 void AddTimecode(TreeNode& node, std::string label, const Timecode& timecode)
@@ -116,8 +100,9 @@ void AddTimeBounds(TreeNode& node, const TimeBoundsArray& bounds)
     AddBoundary(node, "in", bounds.InBoundary());
     AddBoundary(node, "out", bounds.OutBoundary());
     for (const TimeBounds& stretch : bounds)
-        node.children.push_back(Leaf("time bounds", {Span{BoundaryText(stretch.InBoundary()), Tone::Time}, Text(" to "),
-                                                     Span{BoundaryText(stretch.OutBoundary()), Tone::Time}}));
+        node.children.push_back(Leaf("time bounds",
+                                     {Span{BoundaryText(stretch.InBoundary()), Tone::Time}, Text(" to "),
+                                      Span{BoundaryText(stretch.OutBoundary()), Tone::Time}}));
 }
 
 /// The operator's clip identifier as its short text ("123B") when every part is in range,
@@ -136,8 +121,7 @@ std::vector<Span> ClipSpans(int32_t page, int32_t bank, int32_t clip, char camer
 TreeNode OperatorProfileTree(const PelkOperatorMetadataProfile& profile)
 {
     TreeNode node = Object("operator profile", profile.FullyQualifiedName().Value());
-    node.children.push_back(
-        Leaf("clip", ClipSpans(profile.Page(), profile.Bank(), profile.Clip(), profile.Camera())));
+    node.children.push_back(Leaf("clip", ClipSpans(profile.Page(), profile.Bank(), profile.Clip(), profile.Camera())));
     AddNumber(node, "server", profile.ServerId().SerialNumber());
     AddText(node, "umid", profile.UmId());
     AddText(node, "var id", profile.VarId());
@@ -154,8 +138,9 @@ TreeNode OperatorProfileTree(const PelkOperatorMetadataProfile& profile)
     AddId(node, "fill and key asset", profile.FillAndKeyMediaAssetId().Value());
     const auto keywords = profile.Keywords();
     for (size_t slot = 0; slot < keywords.size(); ++slot)
-        node.children.push_back(keywords[slot].empty() ? Leaf("keyword " + std::to_string(slot), "(empty)", Tone::Faint)
-                                                        : Leaf("keyword " + std::to_string(slot), keywords[slot], Tone::Plain));
+        node.children.push_back(keywords[slot].empty()
+                                    ? Leaf("keyword " + std::to_string(slot), "(empty)", Tone::Faint)
+                                    : Leaf("keyword " + std::to_string(slot), keywords[slot], Tone::Plain));
     if (profile.IsUserProtected())
         node.children.push_back(Leaf("protected", "by the user", Tone::Plain));
     if (profile.IsPelkUiProtected())
@@ -251,8 +236,9 @@ TreeNode EssenceTree(const Essence& essence)
     }
     AddNumber(node, "channels", essence.ChannelCount());
     for (const auto& channel : essence.TrackChannels())
-        node.children.push_back(Leaf("track channel", {IdSpan(channel->TrackId().Value()),
-                                                       Text(" channel " + std::to_string(channel->ChannelNr()))}));
+        node.children.push_back(
+            Leaf("track channel",
+                 {IdSpan(channel->TrackId().Value()), Text(" channel " + std::to_string(channel->ChannelNr()))}));
     AddMetadata(node, essence.Metadata());
     for (const auto& table : essence.Timecodes())
         node.children.push_back(TimecodeTableTree(*table));
@@ -261,8 +247,9 @@ TreeNode EssenceTree(const Essence& essence)
 
 TreeNode LocationTree(const Location& location)
 {
-    TreeNode node = Object("location", {Span{Location::ToString(location.GetType()), Tone::Keyword}, Text(" "),
-                                      Span{location.Uri().Value(), Tone::Id}});
+    TreeNode node = Object(
+        "location",
+        {Span{Location::ToString(location.GetType()), Tone::Keyword}, Text(" "), Span{location.Uri().Value(), Tone::Id}});
     switch (location.GetType()) {
     case Location::FileLocation: {
         const auto& file = static_cast<const FileLocation&>(location);
@@ -323,9 +310,10 @@ TreeNode TrackTree(const Track& track)
     TreeNode node = Object("track", track.Id().Value());
     AddText(node, "name", track.Name());
     for (const auto& channel : track.Channels())
-        node.children.push_back(Leaf("channel", {Text("stream "), IdSpan(channel->Stream().Id().Value()),
-                                                 Text(", essence " + std::to_string(channel->EssenceNr())
-                                                      + ", channel " + std::to_string(channel->ChannelNr()))}));
+        node.children.push_back(Leaf("channel",
+                                     {Text("stream "), IdSpan(channel->Stream().Id().Value()),
+                                      Text(", essence " + std::to_string(channel->EssenceNr()) + ", channel "
+                                           + std::to_string(channel->ChannelNr()))}));
     return node;
 }
 

@@ -36,18 +36,14 @@ std::string Fraction(uint64_t nanoseconds)
 std::string DurationText(int64_t nanoseconds)
 {
     // The magnitude in unsigned arithmetic, so that the most negative value has one too.
-    const uint64_t magnitude =
-        nanoseconds < 0 ? 0 - static_cast<uint64_t>(nanoseconds) : static_cast<uint64_t>(nanoseconds);
+    const uint64_t magnitude = nanoseconds < 0 ? 0 - static_cast<uint64_t>(nanoseconds) : static_cast<uint64_t>(nanoseconds);
     const uint64_t seconds = magnitude / kNanosecondsPerSecond;
     return (nanoseconds < 0 ? "-" : "") + std::to_string(seconds / 3600) + "h "
         + TwoDigits(static_cast<int64_t>(seconds / 60 % 60)) + "m " + TwoDigits(static_cast<int64_t>(seconds % 60))
         + Fraction(magnitude % kNanosecondsPerSecond) + "s";
 }
 
-std::string TimePointText(const TimePoint& timePoint)
-{
-    return DurationText(timePoint.ToNanoseconds());
-}
+std::string TimePointText(const TimePoint& timePoint) { return DurationText(timePoint.ToNanoseconds()); }
 
 std::string BoundaryText(const TimeBoundary& boundary)
 {
@@ -56,10 +52,7 @@ std::string BoundaryText(const TimeBoundary& boundary)
     return TimePointText(boundary.TimePoint()) + (boundary.IsMoving() ? " (moving)" : "");
 }
 
-bool HasClock(const Timecode& timecode)
-{
-    return timecode.Rate().Numerator() > 0 && timecode.Rate().Denominator() > 0;
-}
+bool HasClock(const Timecode& timecode) { return timecode.Rate().Numerator() > 0 && timecode.Rate().Denominator() > 0; }
 
 std::string TimecodeText(const Timecode& timecode)
 {

@@ -79,9 +79,6 @@ private:
 
 }  // namespace
 
-void PrintTree(std::ostream& out, const TreeNode& root, bool color)
-{
-    Printer(out, color).Node(root, 0, 0);
-}
+void PrintTree(std::ostream& out, const TreeNode& root, bool color) { Printer(out, color).Node(root, 0, 0); }
 
 }  // namespace Orvik::AssetTool

@@ -17,15 +17,9 @@ using namespace DataModel::MediaAssets;
 
 namespace {
 
-std::string Quoted(const std::string& text)
-{
-    return "\"" + text + "\"";
-}
+std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
-std::string RangeText(int min, int max)
-{
-    return std::to_string(min) + " to " + std::to_string(max);
-}
+std::string RangeText(int min, int max) { return std::to_string(min) + " to " + std::to_string(max); }
 
 /// What the checks of an asset's parts need to know about the asset as a whole.
 struct AssetContext {
@@ -100,13 +94,15 @@ private:
         if (bounds.HasOverlappingTimeBounds())
             Add(at, "stretches overlap");
         if (!bounds.IsInValid())
-            Add(at / "inBoundary", "the in boundary " + BoundaryText(bounds.InBoundary())
-                                       + " is not before the out boundary " + BoundaryText(bounds.OutBoundary()));
+            Add(at / "inBoundary",
+                "the in boundary " + BoundaryText(bounds.InBoundary()) + " is not before the out boundary "
+                    + BoundaryText(bounds.OutBoundary()));
         if (bounds.IsInOutOfTimeBounds())
             Add(at / "inBoundary", "the in boundary " + BoundaryText(bounds.InBoundary()) + " lies in no stretch");
         if (bounds.IsOutOutOfTimeBounds())
-            Add(at / "outBoundary", "the out boundary " + BoundaryText(bounds.OutBoundary())
-                                        + " lies in no stretch (a stretch holds its in point, not its out point)");
+            Add(at / "outBoundary",
+                "the out boundary " + BoundaryText(bounds.OutBoundary())
+                    + " lies in no stretch (a stretch holds its in point, not its out point)");
     }
 
     void CheckMetadata(const MetadataProfileDictionary& metadata, const JsonPointer& at)
@@ -154,9 +150,9 @@ private:
     void CheckTimecode(const Timecode& timecode, const JsonPointer& at)
     {
         if (timecode != Timecode() && !HasClock(timecode))
-            Add(at, "rate " + std::to_string(timecode.Rate().Numerator()) + "/"
-                        + std::to_string(timecode.Rate().Denominator())
-                        + " is not positive: the timecode cannot be read as a clock");
+            Add(at,
+                "rate " + std::to_string(timecode.Rate().Numerator()) + "/" + std::to_string(timecode.Rate().Denominator())
+                    + " is not positive: the timecode cannot be read as a clock");
     }
 
     /// The ids met so far in one collection, each with the pointer of the element that has it.
@@ -252,7 +248,8 @@ private:
         index = 0;
         for (const auto& location : stream.Locations()) {
             if (location->GetType() == Location::ZanLocation)
-                CheckSerialNumber(static_cast<const ZanLocation&>(*location).ServerId(), at / "locations" / index / "serverId");
+                CheckSerialNumber(static_cast<const ZanLocation&>(*location).ServerId(),
+                                  at / "locations" / index / "serverId");
             ++index;
         }
     }
@@ -264,8 +261,7 @@ private:
         for (const auto& channel : essence.TrackChannels()) {
             const std::string& trackId = channel->TrackId().Value();
             if (context.trackIds.count(trackId) == 0)
-                Add(at / "trackChannels" / index / "trackId",
-                    "track " + Quoted(trackId) + " is not a track of the asset");
+                Add(at / "trackChannels" / index / "trackId", "track " + Quoted(trackId) + " is not a track of the asset");
             ++index;
         }
         SeenIds seenTables;

@@ -31,7 +31,8 @@ bool WantsColor(bool noColor)
 int UsageError(const CLI::App& app, const std::string& message, std::ostream& err)
 {
     const auto commands = app.get_subcommands();
-    const std::string help = commands.empty() ? "orvik-asset --help" : "orvik-asset " + commands.front()->get_name() + " --help";
+    const std::string help =
+        commands.empty() ? "orvik-asset --help" : "orvik-asset " + commands.front()->get_name() + " --help";
     err << "orvik-asset: " << Printable(message) << " (see " << help << ")\n";
     return kTrouble;
 }
@@ -62,8 +63,8 @@ int main(int argc, char** argv)
     show->footer("Fields at their default (empty, 0, unknown, unset) are left out.");
 
     std::vector<std::string> files;
-    CLI::App* validate = app.add_subcommand(
-        "validate", "Check documents: their JSON form, then the model's rules; one line per problem");
+    CLI::App* validate =
+        app.add_subcommand("validate", "Check documents: their JSON form, then the model's rules; one line per problem");
     validate->add_option("FILE", files, kFileHelp)->required();
     validate->footer("Each problem is written as FILE: JSON-POINTER: MESSAGE; nothing is written for a valid file.");
 
