@@ -64,7 +64,7 @@ if(PROJECT_IS_TOP_LEVEL)
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
     set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "In-memory data model of media assets: shared library")
     set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "In-memory data model of media assets: headers, CMake package and pkg-config file")
-    # The orvik-asset tool: a package of its own, which needs the shared library of the same version.
+    # The orvik-asset tool: a package of its own, which needs the shared libraries of the same version.
     if(ORVIK_BUILD_TOOLS)
         list(APPEND CPACK_COMPONENTS_ALL tools)
         set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME "orvik-asset")
@@ -72,7 +72,7 @@ if(PROJECT_IS_TOP_LEVEL)
         set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
         # The project's own shared objects are found in the build tree, and depended on by name.
         set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}" "${PROJECT_BINARY_DIR}/BusinessEntityModel/MediaAssets/Json")
-        set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+        set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
         set(CPACK_COMPONENT_TOOLS_DESCRIPTION "In-memory data model of media assets: the orvik-asset command-line tool")
     endif()
     include(CPack)
