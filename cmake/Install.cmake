@@ -55,6 +55,9 @@ if(PROJECT_IS_TOP_LEVEL)
     set(CPACK_GENERATOR "DEB")
     set(CPACK_DEB_COMPONENT_INSTALL ON)
     set(CPACK_COMPONENTS_ALL runtime development)
+    if(TARGET OrvikMediaAssetsJson)
+        list(APPEND CPACK_COMPONENTS_ALL json)
+    endif()
     set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
     set(CPACK_DEBIAN_PACKAGE_SECTION "libs")
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "liborvikmediaassets${PROJECT_VERSION_MAJOR}")
@@ -62,6 +65,16 @@ if(PROJECT_IS_TOP_LEVEL)
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME "liborvikmediaassets-dev")
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION "libdevel")
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+    # The JSON library is a runtime package of its own; its headers, CMake component and pkg-config
+    # file are part of the -dev package, which then depends on it.
+    if(TARGET OrvikMediaAssetsJson)
+        set(CPACK_DEBIAN_JSON_PACKAGE_NAME "liborvikmediaassetsjson${PROJECT_VERSION_MAJOR}")
+        set(CPACK_DEBIAN_JSON_PACKAGE_DEPENDS
+            "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), libsimdjson14")
+        set(CPACK_COMPONENT_JSON_DESCRIPTION "In-memory data model of media assets: JSON form, shared library")
+        string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+            ", liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+    endif()
     set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "In-memory data model of media assets: shared library")
     set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "In-memory data model of media assets: headers, CMake package and pkg-config file")
     # The orvik-asset tool: a package of its own, which needs the shared libraries of the same version.

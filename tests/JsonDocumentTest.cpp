@@ -192,7 +192,8 @@ TEST_F(JsonSharing, LayoutItemsPointAtTheAssetsOwnTracks)
 TEST_F(JsonSharing, UnknownProfileIsKeptAsItsTextAndWrittenBackByteIdentical)
 {
     const Stream& stream = *asset.MediaResources().Front().Value().Streams().front().Pointer();
-    const auto* raw = dynamic_cast<const Json::RawMetadataProfile*>(&stream.Metadata().At(FullyQualifiedName("vendor.technical")));
+    const auto* raw =
+        dynamic_cast<const Json::RawMetadataProfile*>(&stream.Metadata().At(FullyQualifiedName("vendor.technical")));
     ASSERT_NE(raw, nullptr);
     const std::string compact = "{\"probe\":{\"tool\":\"x\",\"passes\":[1,2,3]},\"ok\":true}";
     Stream copy = stream.Clone();

@@ -17,8 +17,7 @@ class RawMetadataProfile : public BusinessEntityModel::BaseTypes::MetadataProfil
 public:
     RawMetadataProfile(BusinessEntityModel::BaseTypes::FullyQualifiedName name, std::string json)
         : name(std::move(name)), json(std::move(json))
-    {
-    }
+    {}
 
     BusinessEntityModel::BaseTypes::FullyQualifiedName FullyQualifiedName() const override { return name; }
     const std::string& Json() const { return json; }

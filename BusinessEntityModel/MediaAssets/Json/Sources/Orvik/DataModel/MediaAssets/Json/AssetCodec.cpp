@@ -8,9 +8,9 @@ namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
 
-constexpr auto kAssetMembers = MemberNames("objectId", "id", "assetType", "ancestor", "parent", "name",
-                                           "description", "physicalTimebounds", "creationDate", "modificationDate",
-                                           "metadata", "mediaResources", "tracks", "trackLayouts", "annotations");
+constexpr auto kAssetMembers =
+    MemberNames("objectId", "id", "assetType", "ancestor", "parent", "name", "description", "physicalTimebounds",
+                "creationDate", "modificationDate", "metadata", "mediaResources", "tracks", "trackLayouts", "annotations");
 constexpr uint64_t kPointerIsOptional = 1u << 1;
 constexpr Members<2> kReferenceMembers{{"id", "pointer"}, kPointerIsOptional};
 constexpr auto kTrackMembers = MemberNames("objectId", "id", "name", "channels");
@@ -234,16 +234,11 @@ void Write(Writer& w, const MediaAsset& asset)
     w.Int("creationDate", asset.CreationDate());
     w.Int("modificationDate", asset.ModificationDate());
     w.Member("metadata", [&] { Write(w, asset.Metadata()); });
-    w.Array("mediaResources", asset.MediaResources(), [&](const MediaResourceReference& reference) {
-        Write(w, reference);
-    });
+    w.Array("mediaResources", asset.MediaResources(), [&](const MediaResourceReference& reference) { Write(w, reference); });
     w.Array("tracks", asset.Tracks(), [&](const std::shared_ptr<Track>& track) { Write(w, *track); });
-    w.Array("trackLayouts", asset.TrackLayouts(), [&](const std::shared_ptr<TrackLayout>& layout) {
-        Write(w, *layout);
-    });
-    w.Array("annotations", asset.Annotations(), [&](const std::shared_ptr<Annotation>& annotation) {
-        Write(w, annotation);
-    });
+    w.Array("trackLayouts", asset.TrackLayouts(), [&](const std::shared_ptr<TrackLayout>& layout) { Write(w, *layout); });
+    w.Array("annotations", asset.Annotations(),
+            [&](const std::shared_ptr<Annotation>& annotation) { Write(w, annotation); });
     w.EndObject();
 }
 

@@ -29,10 +29,7 @@ struct DocumentOf<MediaAsset> {
 template <>
 struct DocumentOf<MediaResource> {
     static constexpr char kName[] = "MediaResource";
-    static void Read(Reader& r, Reader::Rest& rest, MediaResource& resource)
-    {
-        detail::ReadMembers(r, rest, resource);
-    }
+    static void Read(Reader& r, Reader::Rest& rest, MediaResource& resource) { detail::ReadMembers(r, rest, resource); }
 };
 
 template <>
@@ -129,10 +126,7 @@ void ToJson(std::ostream& out, const MediaAsset& value, Layout layout) { Put(out
 void ToJson(std::ostream& out, const MediaResource& value, Layout layout) { Put(out, ToJson(value, layout)); }
 void ToJson(std::ostream& out, const Stream& value, Layout layout) { Put(out, ToJson(value, layout)); }
 void ToJson(std::ostream& out, const MediaAssetGroup& value, Layout layout) { Put(out, ToJson(value, layout)); }
-void ToJson(std::ostream& out, const PelkOperatorMetadataProfile& value, Layout layout)
-{
-    Put(out, ToJson(value, layout));
-}
+void ToJson(std::ostream& out, const PelkOperatorMetadataProfile& value, Layout layout) { Put(out, ToJson(value, layout)); }
 void ToJson(std::ostream& out, const AnglesPelkOperatorMetadataProfile& value, Layout layout)
 {
     Put(out, ToJson(value, layout));

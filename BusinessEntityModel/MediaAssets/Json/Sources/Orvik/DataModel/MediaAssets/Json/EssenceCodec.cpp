@@ -10,10 +10,10 @@ namespace {
 constexpr auto kAudioMembers = MemberNames("objectId", "metadata", "channelCount", "nr", "trackChannels", "timecodes",
                                            "audioCodec", "bitRate", "bitRateMode", "sampleRate", "bitDepth", "fourCC");
 constexpr auto kDataMembers = MemberNames("objectId", "metadata", "channelCount", "nr", "trackChannels", "timecodes");
-constexpr auto kVideoMembers = MemberNames("objectId", "metadata", "channelCount", "nr", "trackChannels", "timecodes",
-                                           "videoCodec", "bitRate", "bitRateMode", "bitDepth", "frameRate", "height",
-                                           "width", "chromaSubSampling", "colorSpace", "scanMode", "fourCC",
-                                           "aspectRatio", "boxing");
+constexpr auto kVideoMembers =
+    MemberNames("objectId", "metadata", "channelCount", "nr", "trackChannels", "timecodes", "videoCodec", "bitRate",
+                "bitRateMode", "bitDepth", "frameRate", "height", "width", "chromaSubSampling", "colorSpace", "scanMode",
+                "fourCC", "aspectRatio", "boxing");
 constexpr auto kTrackChannelMembers = MemberNames("trackId", "channelNr");
 constexpr auto kAspectRatioMembers = MemberNames("widthFactor", "heightFactor");
 

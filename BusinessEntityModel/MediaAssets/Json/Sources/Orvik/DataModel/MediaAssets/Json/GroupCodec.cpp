@@ -56,8 +56,8 @@ std::shared_ptr<MediaAssetGroupItem> ReadItem(Reader& r, value v)
             result = std::move(item);
         } else {
             const PathSegment segment(r.CurrentPath(), "kind");
-            r.Fail(std::string("expected \"") + kItemKind + "\" or \"" + kAnglesItemKind + "\", found \""
-                   + std::string(kind) + "\"");
+            r.Fail(std::string("expected \"") + kItemKind + "\" or \"" + kAnglesItemKind + "\", found \"" + std::string(kind)
+                   + "\"");
         }
     });
     return result;
@@ -87,8 +87,7 @@ std::shared_ptr<MediaAssetGroup> ReadGroup(Reader& r, Reader::Rest& rest)
             group = std::make_shared<MediaAssetGroup>(Identifier::Empty(), Utf8String());
         } else {
             const PathSegment segment(r.CurrentPath(), "kind");
-            r.Fail(std::string("expected \"") + kGroupKind + "\" or \"" + kAnglesGroupKind + "\", found \"" + kind
-                   + "\"");
+            r.Fail(std::string("expected \"") + kGroupKind + "\" or \"" + kAnglesGroupKind + "\", found \"" + kind + "\"");
         }
     }
     r.ReadRest(rest, kGroupMembers, [&](size_t index, value member) {

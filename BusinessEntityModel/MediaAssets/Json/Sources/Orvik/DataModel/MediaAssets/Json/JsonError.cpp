@@ -4,7 +4,6 @@ namespace Orvik::DataModel::MediaAssets::Json {
 
 JsonError::JsonError(const std::string& path, const std::string& expected)
     : std::runtime_error((path.empty() ? std::string("(root)") : path) + ": " + expected), path(path)
-{
-}
+{}
 
 }  // namespace Orvik::DataModel::MediaAssets::Json

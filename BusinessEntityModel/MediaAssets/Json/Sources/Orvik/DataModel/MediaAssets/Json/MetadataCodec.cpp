@@ -72,10 +72,10 @@ constexpr int kMaxProfileDepth = 100;
 constexpr char kPelkKind[] = "PelkOperatorMetadataProfile";
 constexpr char kAnglesKind[] = "AnglesPelkOperatorMetadataProfile";
 
-constexpr auto kPelkMembers = MemberNames("objectId", "serverId", "page", "bank", "clip", "camera", "umId", "varId",
-                                          "rating", "archiveStatus", "userTimecodeType", "primaryTimecode",
-                                          "userTimecode", "todTimecode", "icon", "color", "fillAndKeyType",
-                                          "fillAndKeyMediaAssetId", "keywords", "userProtected", "pelkUIProtected");
+constexpr auto kPelkMembers =
+    MemberNames("objectId", "serverId", "page", "bank", "clip", "camera", "umId", "varId", "rating", "archiveStatus",
+                "userTimecodeType", "primaryTimecode", "userTimecode", "todTimecode", "icon", "color", "fillAndKeyType",
+                "fillAndKeyMediaAssetId", "keywords", "userProtected", "pelkUIProtected");
 constexpr auto kAnglesMembers = MemberNames("objectId", "serverId", "page", "bank", "clip");
 
 // Accepts one JSON object nested at most kMaxProfileDepth deep, with nothing after it.
@@ -233,7 +233,9 @@ void Write(Writer& w, const MetadataProfileDictionary& dictionary)
     const auto profiles = dictionary.Values();
     for (size_t index = 0; index < names.size(); ++index) {
         const std::string& name = names[index].Value();
-        w.Member(name, [&] { WriteProfile(w, name, profiles[index]); });
+        w.CheckedKey(name);
+        const PathSegment segment(w.CurrentPath(), name);
+        WriteProfile(w, name, profiles[index]);
     }
     w.EndObject();
 }

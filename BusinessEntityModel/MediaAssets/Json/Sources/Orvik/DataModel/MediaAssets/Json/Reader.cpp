@@ -63,10 +63,7 @@ Reader::~Reader()
         SpareParser() = std::move(parser);
 }
 
-int64_t Reader::Int64(value v)
-{
-    return Take(v.get_int64(), "an integer", &v);
-}
+int64_t Reader::Int64(value v) { return Take(v.get_int64(), "an integer", &v); }
 
 int32_t Reader::Int32(value v)
 {
@@ -76,15 +73,9 @@ int32_t Reader::Int32(value v)
     return static_cast<int32_t>(number);
 }
 
-bool Reader::Bool(value v)
-{
-    return Take(v.get_bool(), "true or false", &v);
-}
+bool Reader::Bool(value v) { return Take(v.get_bool(), "true or false", &v); }
 
-std::string_view Reader::String(value v)
-{
-    return Take(v.get_string(), "a string", &v);
-}
+std::string_view Reader::String(value v) { return Take(v.get_string(), "a string", &v); }
 
 std::string_view Reader::RawObject(value v)
 {
@@ -95,10 +86,7 @@ std::string_view Reader::RawObject(value v)
     return raw.substr(0, end == std::string_view::npos ? 0 : end + 1);
 }
 
-bool Reader::IsString(value v)
-{
-    return Take(v.type(), "a JSON value") == simdjson::ondemand::json_type::string;
-}
+bool Reader::IsString(value v) { return Take(v.type(), "a JSON value") == simdjson::ondemand::json_type::string; }
 
 namespace {
 constexpr auto kSchemaMembers = MemberNames("name", "version");
@@ -162,10 +150,7 @@ size_t Reader::Find(const std::string_view* names, size_t count, size_t next, st
     return count;
 }
 
-void Reader::Fail(const std::string& expected) const
-{
-    throw JsonError(path.ToString(), expected);
-}
+void Reader::Fail(const std::string& expected) const { throw JsonError(path.ToString(), expected); }
 
 void Reader::Fail(simdjson::error_code error, std::string_view expected, value* v) const
 {
@@ -191,9 +176,6 @@ void Reader::Duplicate(std::string_view key)
     Fail("expected one member of this name, found a second");
 }
 
-void Reader::Missing(std::string_view key) const
-{
-    Fail("expected member \"" + std::string(key) + "\"");
-}
+void Reader::Missing(std::string_view key) const { Fail("expected member \"" + std::string(key) + "\""); }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -193,14 +193,12 @@ public:
         const std::string pointer(String(v));
         const auto found = shared.find(pointer);
         if (found == shared.end() || *found->second.type != typeid(T))
-            Fail("expected a JSON pointer to " + std::string(what) + " written earlier in the document, found \""
-                 + pointer + "\"");
+            Fail("expected a JSON pointer to " + std::string(what) + " written earlier in the document, found \"" + pointer
+                 + "\"");
         return std::static_pointer_cast<T>(found->second.object);
     }
 
     [[noreturn]] void Fail(const std::string& expected) const;
-    /// Refuses the member `key` of the current object as met a second time.
-    [[noreturn]] void Duplicate(std::string_view key);
 
     Path& CurrentPath() { return path; }
 
@@ -229,6 +227,8 @@ private:
     value First(Rest& rest, std::string_view name);
     static size_t Find(const std::string_view* names, size_t count, size_t next, std::string_view key);
     [[noreturn]] void Unexpected(std::string_view key);
+    /// Refuses the member `key` of the current object as met a second time.
+    [[noreturn]] void Duplicate(std::string_view key);
     [[noreturn]] void Missing(std::string_view key) const;
 
     std::string_view schemaName;

@@ -5,11 +5,23 @@
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
+#include <simdjson.h>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
+
 constexpr char kNotUtf8[] = "expected text in UTF-8, found invalid bytes";
+
+// Most texts of the model are short and ASCII; only the others go through the full check.
+bool IsUtf8(std::string_view text)
+{
+    for (const char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return simdjson::validate_utf8(text.data(), text.size());
+    return true;
+}
+
 }  // namespace
 
 Writer::Writer(std::string_view schemaName) : buffer(nullptr, 64 * 1024), json(buffer), schemaName(schemaName) {}
@@ -29,33 +41,23 @@ void Writer::StartObject()
     json.EndObject();
 }
 
-void Writer::Key(std::string_view name)
+void Writer::CheckedKey(std::string_view name)
 {
-    if (!json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()))) {
+    if (!IsUtf8(name)) {
         const PathSegment segment(path, name);
         Fail(kNotUtf8);
     }
+    Key(name);
 }
 
 void Writer::String(std::string_view text)
 {
-    if (!json.String(text.data(), static_cast<rapidjson::SizeType>(text.size())))
+    if (!IsUtf8(text))
         Fail(kNotUtf8);
+    json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
 
-void Writer::String(std::string_view name, std::string_view text)
-{
-    Key(name);
-    if (!json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()))) {
-        const PathSegment segment(path, name);
-        Fail(kNotUtf8);
-    }
-}
-
-void Writer::Raw(std::string_view jsonText)
-{
-    json.RawValue(jsonText.data(), jsonText.size(), rapidjson::kObjectType);
-}
+void Writer::Raw(std::string_view jsonText) { json.RawValue(jsonText.data(), jsonText.size(), rapidjson::kObjectType); }
 
 const std::string* Writer::PlaceOf(const void* object) const
 {
@@ -63,10 +65,7 @@ const std::string* Writer::PlaceOf(const void* object) const
     return found == written.end() ? nullptr : &found->second;
 }
 
-void Writer::Fail(const std::string& expected) const
-{
-    throw JsonError(path.ToString(), expected);
-}
+void Writer::Fail(const std::string& expected) const { throw JsonError(path.ToString(), expected); }
 
 std::string Writer::Finish(Layout layout) const
 {

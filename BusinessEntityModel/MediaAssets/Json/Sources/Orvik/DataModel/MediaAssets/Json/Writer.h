@@ -27,12 +27,11 @@ public:
     /// Starts an object; the first one of the document opens with the "schema" member.
     void StartObject();
     void EndObject() { json.EndObject(); }
-    void StartArray() { json.StartArray(); }
-    void EndArray() { json.EndArray(); }
 
-    void Key(std::string_view name);
-    void Int(int64_t value) { json.Int64(value); }
-    void Bool(bool value) { json.Bool(value); }
+    /// A member name known to be valid UTF-8.
+    void Key(std::string_view name) { json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size())); }
+    /// A member name from the model; throws JsonError unless it is valid UTF-8.
+    void CheckedKey(std::string_view name);
     /// Throws JsonError at the current path unless `text` is valid UTF-8.
     void String(std::string_view text);
     /// A JSON value that is written as it stands (checked by the caller).
@@ -48,7 +47,12 @@ public:
         Key(name);
         json.Bool(value);
     }
-    void String(std::string_view name, std::string_view text);
+    void String(std::string_view name, std::string_view text)
+    {
+        Key(name);
+        const PathSegment segment(path, name);
+        String(text);
+    }
 
     /// Writes the key, then `write()` with the path extended by it.
     template <typename Write>
@@ -101,8 +105,8 @@ public:
     std::string Finish(Layout layout) const;
 
 private:
-    using JsonWriter = rapidjson::Writer<rapidjson::StringBuffer, rapidjson::UTF8<>, rapidjson::UTF8<>,
-                                         rapidjson::CrtAllocator, rapidjson::kWriteValidateEncodingFlag>;
+    // Texts are checked by simdjson's UTF-8 validation, which is much faster than the writer's own.
+    using JsonWriter = rapidjson::Writer<rapidjson::StringBuffer>;
 
     rapidjson::StringBuffer buffer;
     JsonWriter json;
