@@ -10,7 +10,7 @@
 
 namespace {
 
-std::string Text(const uint8_t* data, size_t size)
+[[maybe_unused]] std::string Text(const uint8_t* data, size_t size)
 {
     return std::string(reinterpret_cast<const char*>(data), size);
 }

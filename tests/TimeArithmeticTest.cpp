@@ -5,10 +5,13 @@
 #include <Orvik/TimePoints/Core/TimeCode.h>
 #include <Orvik/TimePoints/Core/TimePoint.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <limits>
+#include <random>
+#include <stdexcept>
 
 using namespace Orvik::TimePoints;
 
@@ -33,10 +36,7 @@ void ExpectAll(std::initializer_list<Wrapped> rows)
     }
 }
 
-TimeBoundary At(int64_t nanoseconds)
-{
-    return TimeBoundary(TimePoint(nanoseconds), false);
-}
+TimeBoundary At(int64_t nanoseconds) { return TimeBoundary(TimePoint(nanoseconds), false); }
 
 }  // namespace
 
@@ -121,4 +121,48 @@ TEST(TimeArithmetic, SampleCountsWrapAroundAndTheClockStillReadsThem)
     EXPECT_EQ(lowest.Minute(), 22);
     EXPECT_EQ(lowest.Second(), 47);
     EXPECT_EQ(lowest.Sample(), 17);
+}
+
+TEST(TimePointSamples, SampleStartsAtItsFirstWholeNanosecondAndConvertsBackExactly)
+{
+    const Rate ntsc(30000, 1001);
+    ExpectAll({
+        {"sample 1 starts at 33366666.67 ns: up", TimePoint::FromSampleNumber(1, ntsc).ToNanoseconds(), 33366667},
+        {"sample -1 starts at -33366666.67 ns", TimePoint::FromSampleNumber(-1, ntsc).ToNanoseconds(), -33366666},
+        {"the nanosecond before sample 1", TimePoint(33366666).GetSampleNumber(ntsc), 0},
+        {"the first of sample 1", TimePoint(33366667).GetSampleNumber(ntsc), 1},
+        {"point -1", TimePoint(-1).GetSampleNumber(ntsc), -1},
+        {"aligned within sample 1", TimePoint(40000000).AlignWith(ntsc).ToNanoseconds(), 33366667},
+        {"max at 1 per second", TimePoint::MaxValue().GetSampleNumber(Rate(1, 1)), 9223372036},
+        {"lowest at 1 per second", TimePoint(kMin).GetSampleNumber(Rate(1, 1)), -9223372037},
+    });
+
+    // Over random points and rates: a point lies in its sample, and a sample starts where it says.
+    std::mt19937_64 random(14);
+    const Rate rates[] = {Rate(25, 1), ntsc, Rate(60000, 1001), Rate(48000, 1), Rate(7, 3)};
+    for (int i = 0; i < 10000; ++i) {
+        const Rate& rate = rates[i % 5];
+        const TimePoint point(static_cast<int64_t>(random() >> 8) - (int64_t(1) << 55));
+        const int64_t sample = point.GetSampleNumber(rate);
+        ASSERT_LE(point.AlignWith(rate), point);
+        ASSERT_LT(point, TimePoint::FromSampleNumber(sample + 1, rate));
+        ASSERT_EQ(TimePoint::FromSampleNumber(sample, rate).GetSampleNumber(rate), sample);
+    }
+}
+
+TEST(TimePointSamples, RefuseNumbersAndPointsOutsideSixtyFourBits)
+{
+    using ::testing::StrEq;
+    using ::testing::ThrowsMessage;
+    EXPECT_THAT([] { TimePoint::FromSampleNumber(kMax, Rate(1, 1)); },
+                ThrowsMessage<std::out_of_range>(
+                    StrEq("Orvik::TimePoints::TimePoint: the sample starts outside the 64-bit time line")));
+    EXPECT_THAT([] { TimePoint(kMin).AlignWith(Rate(1, 1)); },
+                ThrowsMessage<std::out_of_range>(
+                    StrEq("Orvik::TimePoints::TimePoint: the sample starts outside the 64-bit time line")));
+    EXPECT_THAT(
+        [] { TimePoint::MaxValue().GetSampleNumber(Rate(kMax, 1)); },
+        ThrowsMessage<std::out_of_range>(StrEq("Orvik::TimePoints::TimePoint: the sample number does not fit in 64 bits")));
+    EXPECT_THAT([] { TimePoint::FromSampleNumber(0, Rate(1, 0)); },
+                ThrowsMessage<std::invalid_argument>(StrEq("Orvik::TimePoints::TimePoint: the rate must be positive")));
 }

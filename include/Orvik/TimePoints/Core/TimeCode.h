@@ -8,6 +8,7 @@
 
 namespace Orvik::TimePoints {
 
+class TimeCodeFormatter;
 class TimeCodeParser;
 
 /// A timecode held as a count of samples (frames) from the timecode origin, with its rate and its
@@ -20,15 +21,23 @@ class TimeCodeParser;
 /// 30000/1001). With the drop flag, the first frame numbers of every minute not divisible by
 /// ten are skipped, rate / 15 of them (2 at 30, 4 at 60). With the date flag, whole days before
 /// the sample count are days since 1970-01-01; Year(), Month() and Day() read them (1970-01-01
-/// when there is no date). The clock and date fields and IsCompatible() require a positive
-/// rate; they throw std::invalid_argument otherwise.
+/// when there is no date). The clock and date fields and IsCompatible() require a positive rate
+/// of at most 2147483647 frames a second (rounded up); they throw std::invalid_argument
+/// otherwise.
 class TimeCode {
 public:
     constexpr TimeCode() = default;
     constexpr TimeCode(const TimePoints::Rate& rate, int64_t totalSample, bool isDrop, bool hasDate)
         : rate(rate), totalSample(totalSample), isDrop(isDrop), hasDate(hasDate)
-    {
-    }
+    {}
+
+    /// The timecode of the label hours:minutes:seconds:frames of the first day (no date). The label
+    /// must exist: hours 0 to 23, minutes and seconds 0 to 59, frames below the rate rounded up,
+    /// and with `isDrop` a rate of 30000/1001 or a whole multiple of it and not a label that
+    /// drop-frame counting skips (frames 0 and 1 of each minute not divisible by ten at
+    /// 30000/1001, 0 to 3 at 60000/1001). Throws std::invalid_argument
+    /// "Orvik::TimePoints::TimeCode: " followed by the reason ("minutes must be 0 to 59").
+    TimeCode(const TimePoints::Rate& rate, int32_t hours, int32_t minutes, int32_t seconds, int32_t frames, bool isDrop);
 
     constexpr const TimePoints::Rate& Rate() const { return rate; }
     constexpr void Rate(const TimePoints::Rate& value) { rate = value; }
@@ -85,6 +94,8 @@ public:
     /// True when both timecodes count at the same rate with the same drop-frame rule.
     bool IsCompatible(const TimeCode& other) const;
 
+    /// The text that `formatter` makes of this timecode; its errors pass through.
+    std::string ToString(const TimeCodeFormatter& formatter) const;
     /// The timecode that `parser` reads from `text`; its errors pass through.
     static TimeCode Parse(const std::string& text, const TimeCodeParser& parser);
 

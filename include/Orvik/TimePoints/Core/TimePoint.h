@@ -10,6 +10,7 @@
 
 namespace Orvik::TimePoints {
 
+class TimePointFormatter;
 class TimePointParser;
 
 /// A point on the media time line, in signed nanoseconds, ordered as a signed 64-bit number.
@@ -32,13 +33,24 @@ public:
 
     constexpr int64_t ToNanoseconds() const { return nanoseconds; }
 
-    /// The number of the sample of `rate` that holds this point (rounded toward minus infinity).
+    /// Samples of `rate` count from point 0: sample n covers the points from n / rate seconds up
+    /// to, not including, (n + 1) / rate seconds. The conversions are exact integer arithmetic;
+    /// both members of the rate must be positive (std::invalid_argument otherwise).
+    ///
+    /// The number of the sample that holds this point: floor(nanoseconds × rate / 10^9), rounded
+    /// toward minus infinity, so point -1 is in sample -1. Throws std::out_of_range when the
+    /// number does not fit in 64 bits (rates above 10^9 per second only).
     int64_t GetSampleNumber(const Rate& rate) const;
-    /// The point where sample `sampleNumber` of `rate` starts (rounded toward minus infinity).
+    /// The first whole nanosecond of sample `sampleNumber`: ceil(sampleNumber × 10^9 / rate),
+    /// rounded toward plus infinity, so that GetSampleNumber gives `sampleNumber` back. Throws
+    /// std::out_of_range when that point is outside the 64-bit range.
     static TimePoint FromSampleNumber(int64_t sampleNumber, const Rate& rate);
-    /// The start of the sample of `rate` that holds this point.
+    /// The first whole nanosecond of the sample that holds this point; never after this point.
+    /// Throws as the two conversions do (for points whose sample starts before the 64-bit range).
     TimePoint AlignWith(const Rate& rate) const { return FromSampleNumber(GetSampleNumber(rate), rate); }
 
+    /// The text that `formatter` makes of this point; its errors pass through.
+    std::string ToString(const TimePointFormatter& formatter) const;
     /// The point that `parser` reads from `text`; its errors pass through.
     static TimePoint Parse(const std::string& text, const TimePointParser& parser);
 

@@ -4,9 +4,6 @@
 
 namespace Orvik::TimePoints {
 
-std::string Duration::ToString(const DurationFormatter& formatter) const
-{
-    return formatter.Format(*this);
-}
+std::string Duration::ToString(const DurationFormatter& formatter) const { return formatter.Format(*this); }
 
 }  // namespace Orvik::TimePoints

@@ -20,7 +20,6 @@
 #include <Orvik/DataModel/MediaAssets/AnglesPelkOperatorMetadataProfile.h>
 #include <Orvik/DataModel/MediaAssets/Annotation.h>
 #include <Orvik/DataModel/MediaAssets/AudioEssence.h>
-#include <Orvik/DataModel/MediaAssets/DataEssence.h>
 #include <Orvik/DataModel/MediaAssets/DaxContentTrackLocation.h>
 #include <Orvik/DataModel/MediaAssets/DaxProtectLocation.h>
 #include <Orvik/DataModel/MediaAssets/FileLocation.h>

@@ -169,42 +169,32 @@ bool DifferenceVisitor::Value(const MetadataProfileDictionary& a, const Metadata
     return true;
 }
 
-DifferenceVisitor::Scope DifferenceVisitor::Field(const char* name)
+std::string DifferenceVisitor::Path() const
 {
-    const size_t length = path.size();
-    if (!path.empty())
-        path += '.';
-    path += name;
-    return Scope(path, length);
-}
-
-DifferenceVisitor::Scope DifferenceVisitor::Index(size_t index)
-{
-    const size_t length = path.size();
-    path += '[' + std::to_string(index) + ']';
-    return Scope(path, length);
-}
-
-DifferenceVisitor::Scope DifferenceVisitor::Key(const std::string& name)
-{
-    const size_t length = path.size();
-    path += '[' + Quote(name) + ']';
-    return Scope(path, length);
-}
-
-DifferenceVisitor::Scope DifferenceVisitor::Kind(const char* kind)
-{
-    const size_t length = path.size();
-    if (!path.empty())
-        path += '.';
-    path += '(' + std::string(kind) + ')';
-    return Scope(path, length);
+    std::string path;
+    for (const Step& step : steps) {
+        switch (step.kind) {
+        case Step::Field:
+            path += (path.empty() ? "" : ".") + std::string(step.text);
+            break;
+        case Step::Index:
+            path += '[' + std::to_string(step.index) + ']';
+            break;
+        case Step::Key:
+            path += '[' + Quote(*step.key) + ']';
+            break;
+        case Step::Class:
+            path += (path.empty() ? "(" : ".(") + std::string(step.text) + ')';
+            break;
+        }
+    }
+    return path;
 }
 
 bool DifferenceVisitor::Record(std::string left, std::string right)
 {
     if (!difference)
-        difference.emplace(path, std::move(left), std::move(right));
+        difference.emplace(Path(), std::move(left), std::move(right));
     return false;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 // The walker of the comparison order that FirstDifference is made of: it follows the order as
-// operator== does, keeps the path of the field it stands at, and records the first difference
-// with both values as text. For the sources of the library only.
+// operator== does, keeps the path of the field it stands at (as steps, written out only for the
+// difference), and records the first difference with both values as text. For the sources of the library only.
 
 #include <Orvik/DataModel/MediaAssets/AspectRatio.h>
 #include <Orvik/DataModel/MediaAssets/Difference.h>
@@ -20,6 +20,7 @@
 #include <optional>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace Orvik::DataModel::MediaAssets::detail {
 
@@ -167,28 +168,38 @@ private:
     static constexpr char kMissing[] = "missing";
     static constexpr char kNull[] = "null";
 
+    /// One step of the path: a field, a position, a profile's name or the fields of a class.
+    /// The texts are the caller's and live as long as the step.
+    struct Step {
+        enum Kind { Field, Index, Key, Class } kind;
+        const char* text;
+        size_t index;
+        const std::string* key;
+    };
+
     /// Takes the path back to where it was when the scope began.
     class Scope {
     public:
-        Scope(std::string& path, size_t length) : path(path), length(length) {}
+        Scope(std::vector<Step>& steps, const Step& step) : steps(steps) { steps.push_back(step); }
         Scope(const Scope&) = delete;
         Scope& operator=(const Scope&) = delete;
-        ~Scope() { path.resize(length); }
+        ~Scope() { steps.pop_back(); }
 
     private:
-        std::string& path;
-        size_t length;
+        std::vector<Step>& steps;
     };
 
-    Scope Field(const char* name);
-    Scope Index(size_t index);
-    Scope Key(const std::string& name);
-    Scope Kind(const char* kind);
+    Scope Field(const char* name) { return Scope(steps, {Step::Field, name, 0, nullptr}); }
+    Scope Index(size_t index) { return Scope(steps, {Step::Index, nullptr, index, nullptr}); }
+    Scope Key(const std::string& name) { return Scope(steps, {Step::Key, nullptr, 0, &name}); }
+    Scope Kind(const char* kind) { return Scope(steps, {Step::Class, kind, 0, nullptr}); }
 
+    /// The path written out, as Difference::Path() has it.
+    std::string Path() const;
     /// Keeps the first difference only; false, so that a comparison can end with it.
     bool Record(std::string left, std::string right);
 
-    std::string path;
+    std::vector<Step> steps;
     std::optional<Difference> difference;
 };
 
