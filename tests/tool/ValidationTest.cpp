@@ -74,7 +74,7 @@ TEST(Validation, ClipIdentifiersAndSerialNumbersOutOfRangeNameTheirField)
                     Problem{"/metadata/orvik.pelkoperator/camera", "camera 'M' is not 'A' to 'L'"},
                     Problem{"/metadata/orvik.pelkoperator/serverId", "serial number 125 is not a positive multiple of 10"},
                     Problem{"/metadata/orvik.pelkoperator/userTimecode",
-                            "rate 0/1 is not positive: the timecode cannot be read as a clock"}));
+                            "the timecode cannot be read: Orvik::TimePoints::TimeCode: the rate must be positive"}));
 
     auto stream = std::make_unique<Stream>(StreamId("s"));
     stream->Locations().Add(ZanLocation(ZanServerId(0), "A7F3"));

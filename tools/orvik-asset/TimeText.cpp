@@ -1,8 +1,11 @@
 #include "TimeText.h"
 
+#include <Orvik/TimePoints/Core/Formatters/SmpteTimeCodeFormatter.h>
+
 #include <ctime>
 #include <iomanip>
 #include <sstream>
+#include <stdexcept>
 
 namespace Orvik::AssetTool {
 
@@ -52,19 +55,15 @@ std::string BoundaryText(const TimeBoundary& boundary)
     return TimePointText(boundary.TimePoint()) + (boundary.IsMoving() ? " (moving)" : "");
 }
 
-bool HasClock(const Timecode& timecode) { return timecode.Rate().Numerator() > 0 && timecode.Rate().Denominator() > 0; }
-
 std::string TimecodeText(const Timecode& timecode)
 {
     const auto& rate = timecode.Rate();
     const std::string rateText = " @ " + std::to_string(rate.Numerator()) + "/" + std::to_string(rate.Denominator());
-    if (!HasClock(timecode))
+    try {
+        return timecode.ToString(TimePoints::SmpteTimeCodeFormatter()) + rateText;
+    } catch (const std::invalid_argument&) {
         return "sample " + std::to_string(timecode.TotalSample()) + rateText;
-    std::string text;
-    if (timecode.HasDate())
-        text = std::to_string(timecode.Year()) + "-" + TwoDigits(timecode.Month()) + "-" + TwoDigits(timecode.Day()) + " ";
-    return text + TwoDigits(timecode.Hour()) + ":" + TwoDigits(timecode.Minute()) + ":" + TwoDigits(timecode.Second())
-        + (timecode.IsDrop() ? ";" : ":") + TwoDigits(timecode.Sample()) + rateText;
+    }
 }
 
 std::string DateText(DateTime seconds)

@@ -21,12 +21,10 @@ std::string TimePointText(const DataModel::MediaAssets::TimePoint& timePoint);
 /// moving boundary.
 std::string BoundaryText(const DataModel::MediaAssets::TimeBoundary& boundary);
 
-/// True when the timecode's rate is positive, which reading it as a clock requires.
-bool HasClock(const DataModel::MediaAssets::Timecode& timecode);
-
-/// "HH:MM:SS:FF @ 25/1", with ";" before the frames of a drop-frame timecode and the date first
-/// ("2024-05-01 10:00:00:00 @ 25/1") when the timecode has one. A timecode whose rate is not
-/// positive cannot be read as a clock: "sample 12 @ 0/1".
+/// The SMPTE label of the timecode and its rate: "10:00:00:00 @ 25/1", "00:01:00;02 @ 30000/1001"
+/// with drop-frame counting, "2024-05-01 10:00:00:00 @ 25/1" with a date. A timecode that cannot
+/// be read as a label (a rate that is not positive, say) is written as its count:
+/// "sample 12 @ 0/1".
 std::string TimecodeText(const DataModel::MediaAssets::Timecode& timecode);
 
 /// Seconds since the epoch as "2024-05-01 12:00:00 UTC", or the bare number when it is outside

@@ -4,10 +4,12 @@
 #include "TimeText.h"
 
 #include <Orvik/DataModel/MediaAssets.h>
+#include <Orvik/TimePoints/Core/Formatters/SmpteTimeCodeFormatter.h>
 
 #include <map>
 #include <optional>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -147,12 +149,16 @@ private:
             Add(at, "serial number " + std::to_string(server.SerialNumber()) + " is not a positive multiple of 10");
     }
 
+    /// A timecode that is set must read as a label (see SmpteTimeCodeFormatter).
     void CheckTimecode(const Timecode& timecode, const JsonPointer& at)
     {
-        if (timecode != Timecode() && !HasClock(timecode))
-            Add(at,
-                "rate " + std::to_string(timecode.Rate().Numerator()) + "/" + std::to_string(timecode.Rate().Denominator())
-                    + " is not positive: the timecode cannot be read as a clock");
+        if (timecode == Timecode())
+            return;
+        try {
+            timecode.ToString(TimePoints::SmpteTimeCodeFormatter());
+        } catch (const std::invalid_argument& error) {
+            Add(at, std::string("the timecode cannot be read: ") + error.what());
+        }
     }
 
     /// The ids met so far in one collection, each with the pointer of the element that has it.
