@@ -1,6 +1,9 @@
 // A media asset handed from one component to another: the sender builds it, clones it for the
 // hand-over, and the receiver compares the clone with its own copy, prints the video codec and
-// the clip's location, and checks the asset's time bounds.
+// the clip's location, and checks the asset's time bounds. The asset is built step by step in
+// sample/SampleAssets.cpp, which the orvik-asset tool prints as its example too.
+
+#include <SampleAssets.h>
 
 #include <Orvik/DataModel/MediaAssets.h>
 
@@ -14,57 +17,16 @@ namespace {
 
 constexpr int64_t kSecond = 1000000000;
 
-std::unique_ptr<Stream> MakeHighResolutionStream()
-{
-    auto stream = std::make_unique<Stream>(StreamId("stream-hires"));
-    stream->Format(WrapperFormat::MXFOP1a);
-
-    VideoEssence video;
-    video.Nr(0);
-    video.VideoCodec(VideoCodingFormat::AvidDNxHDHigh);
-    video.Width(1920);
-    video.Height(1080);
-    video.FrameRate(Rate(50, 1));
-    video.ScanMode(ScanMode::progressive);
-    stream->Essences().Add(std::move(video));
-
-    stream->Locations().Add(ZanLocation(ZanServerId(120), "A7F3"));
-    return stream;
-}
-
-MediaAsset MakeAsset()
-{
-    MediaAsset asset(MediaAssetId("asset-goal-0815"));
-    asset.Name("Goal, 81st minute");
-    asset.AssetType(AssetType::media);
-
-    auto resource = std::make_shared<MediaResource>(MediaResourceId("resource-hires"));
-    resource->Adopt(MakeHighResolutionStream());
-    asset.MediaResources().Insert(MediaResourceReference(resource));
-
-    auto track = std::make_shared<Track>(TrackId("track-video"), "Program");
-    auto channel = std::make_shared<TrackChannelToRemove>();
-    channel->Stream(StreamReference(resource->Streams().front().Pointer()));
-    channel->EssenceNr(0);
-    track->Channels().push_back(channel);
-    asset.Tracks().Insert(track);
-
-    asset.PhysicalTimebounds().Insert(TimeBounds(TimeBoundary(TimePoint(0), false), TimeBoundary(TimePoint(20 * kSecond), false)));
-    asset.InBoundary(TimeBoundary(TimePoint(2 * kSecond), false));
-    asset.OutBoundary(TimeBoundary(TimePoint(12 * kSecond), false));
-    return asset;
-}
-
 }  // namespace
 
 int main()
 {
-    const MediaAsset asset = MakeAsset();
+    const MediaAsset asset = Orvik::Samples::MakeSampleAsset();
     std::cout << "Built asset " << asset.Id().Value() << " (" << ToString(asset.AssetType()) << ") with "
               << asset.Tracks().Size() << " track and " << asset.MediaResources().Size() << " resource\n";
 
     try {
-        MediaAsset again = MakeAsset();
+        MediaAsset again = Orvik::Samples::MakeSampleAsset();
         again.Tracks().Insert(std::make_shared<Track>(TrackId("track-video"), "Program"));
     } catch (const std::runtime_error& error) {
         std::cout << "A second track-video is refused: " << error.what() << '\n';

@@ -1,0 +1,110 @@
+// orvik-asset: looks at, checks and compares media asset documents from the command line.
+
+#include "Commands.h"
+#include "Printable.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+using namespace Orvik::AssetTool;
+
+constexpr char kFileHelp[] = "The JSON document of an asset or a group; - reads standard input";
+
+/// Colour only for a person at a terminal, and never when the NO_COLOR convention asks for none.
+bool WantsColor(bool noColor)
+{
+    const char* noColorVariable = std::getenv("NO_COLOR");
+    return !noColor && (noColorVariable == nullptr || *noColorVariable == '\0') && isatty(STDOUT_FILENO) == 1;
+}
+
+/// The one line that a usage error gets, pointing at the help of the command it concerns.
+int UsageError(const CLI::App& app, const std::string& message, std::ostream& err)
+{
+    const auto commands = app.get_subcommands();
+    const std::string help =
+        commands.empty() ? "orvik-asset --help" : "orvik-asset " + commands.front()->get_name() + " --help";
+    err << "orvik-asset: " << Printable(message) << " (see " << help << ")\n";
+    return kTrouble;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    CLI::App app("Looks at, checks and compares media asset documents.", "orvik-asset");
+    app.set_version_flag("--version", std::string("orvik-asset ") + ORVIK_ASSET_VERSION, "Print the version and exit");
+    app.require_subcommand(1);
+    app.footer("Exit status: 0 when done (valid, equal), 1 when validate finds a problem or diff a difference,\n"
+               "2 on a usage error or input that cannot be read.");
+
+    std::string kind = "asset";
+    CLI::App* example = app.add_subcommand("example", "Write the built-in sample asset as JSON to standard output");
+    example->add_option("--kind", kind, "The sample to write: asset or group")
+        ->check(CLI::IsMember({"asset", "group"}))
+        ->capture_default_str();
+
+    std::string file;
+    bool json = false;
+    bool noColor = false;
+    CLI::App* show = app.add_subcommand("show", "Print an asset or a group as an indented tree");
+    show->add_option("FILE", file, kFileHelp)->required();
+    show->add_flag("--json", json, "Print the canonical indented JSON instead");
+    show->add_flag("--no-color", noColor, "Never colour the tree (it is coloured only on a terminal)");
+    show->footer("Fields at their default (empty, 0, unknown, unset) are left out.");
+
+    std::vector<std::string> files;
+    CLI::App* validate =
+        app.add_subcommand("validate", "Check documents: their JSON form, then the model's rules; one line per problem");
+    validate->add_option("FILE", files, kFileHelp)->required();
+    validate->footer("Each problem is written as FILE: JSON-POINTER: MESSAGE; nothing is written for a valid file.");
+
+    std::string left;
+    std::string right;
+    CLI::App* diff = app.add_subcommand("diff", "Print the first difference between two documents of one kind");
+    diff->add_option("A", left, kFileHelp)->required();
+    diff->add_option("B", right, kFileHelp)->required();
+    diff->footer("The difference is written as the field's path, then < and its value in A, > and its value in B.");
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
+            return app.exit(error);  // --help, --version
+        // Without a command, the first word that is not an option was meant as one.
+        if (app.get_subcommands().empty() && argc > 1 && argv[1][0] != '-')
+            return UsageError(app, std::string("unknown command '") + argv[1] + "'", std::cerr);
+        return UsageError(app, error.what(), std::cerr);
+    }
+
+    Streams streams{std::cin, std::cout, std::cerr};
+    int status = kTrouble;
+    try {
+        if (*example)
+            status = RunExample(kind == "group", streams);
+        else if (*show)
+            status = RunShow(file, json, WantsColor(noColor), streams);
+        else if (*validate)
+            status = RunValidate(files, streams);
+        else if (*diff)
+            status = RunDiff(left, right, streams);
+    } catch (const std::exception& error) {
+        std::cout.flush();
+        std::cerr << "orvik-asset: " << Printable(error.what()) << '\n';
+        return kTrouble;
+    }
+    if (!std::cout.flush()) {
+        std::cerr << "orvik-asset: cannot write to standard output: " << std::strerror(errno) << '\n';
+        return kTrouble;
+    }
+    return status;
+}
