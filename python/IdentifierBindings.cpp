@@ -50,6 +50,7 @@ void BindIdentifiers(py::module_& module)
         .def("__copy__", [](const ZanServerId& self) { return self; })
         .def("__deepcopy__", [](const ZanServerId& self, const py::dict&) { return self; });
     DefineEquality(serverId);
+    py::implicitly_convertible<int, ZanServerId>();
 
     py::class_<PelkId> pelkId(module, "PelkId",
                               "The operators' code of a recorded clip: page, bank and row digits, a camera letter "
