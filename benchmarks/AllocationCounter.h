@@ -1,8 +1,10 @@
 #pragma once
 
-// Counts the heap allocations of the benchmark program (its operator new is replaced), so that
-// each benchmark can report allocations per operation. The count is kept per thread, without an
-// atomic operation that would slow every allocation being timed; the benchmarks run on one thread.
+// Allocations per operation beside each benchmark's timing. The benchmark program links the
+// allocation control of the test support, which counts each thread's allocations; the benchmarks
+// run on one thread.
+
+#include "AllocationControl.h"
 
 #include <benchmark/benchmark.h>
 
@@ -10,7 +12,7 @@
 
 namespace OrvikBenchmarks {
 
-uint64_t AllocationCount();
+using Orvik::Testing::AllocationCount;
 
 /// Runs the benchmark loop body `operation` and reports "allocs/op" beside the timing.
 template <typename Operation>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Orvik/TimePoints/Core/Rate.h>
+#include <Orvik/TimePoints/Core/WrappingArithmetic.h>
 
 #include <cstdint>
 #include <string>
@@ -38,30 +39,37 @@ public:
     constexpr bool HasDate() const { return hasDate; }
     constexpr void HasDate(bool value) { hasDate = value; }
 
-    void AddSample(int64_t count) { totalSample += count; }
-    void SubstractSample(int64_t count) { totalSample -= count; }
-    TimeCode operator+(int64_t count) const { return TimeCode(rate, totalSample + count, isDrop, hasDate); }
-    TimeCode operator-(int64_t count) const { return TimeCode(rate, totalSample - count, isDrop, hasDate); }
+    /// Sample arithmetic is plain 64-bit: the count wraps around in two's complement.
+    void AddSample(int64_t count) { totalSample = WrappingArithmetic::Add(totalSample, count); }
+    void SubstractSample(int64_t count) { totalSample = WrappingArithmetic::Subtract(totalSample, count); }
+    TimeCode operator+(int64_t count) const
+    {
+        return TimeCode(rate, WrappingArithmetic::Add(totalSample, count), isDrop, hasDate);
+    }
+    TimeCode operator-(int64_t count) const
+    {
+        return TimeCode(rate, WrappingArithmetic::Subtract(totalSample, count), isDrop, hasDate);
+    }
     TimeCode& operator++()
     {
-        ++totalSample;
+        AddSample(1);
         return *this;
     }
     TimeCode operator++(int)
     {
         TimeCode before = *this;
-        ++totalSample;
+        AddSample(1);
         return before;
     }
     TimeCode& operator--()
     {
-        --totalSample;
+        SubstractSample(1);
         return *this;
     }
     TimeCode operator--(int)
     {
         TimeCode before = *this;
-        --totalSample;
+        SubstractSample(1);
         return before;
     }
 

@@ -50,7 +50,9 @@ public:
         return *this;
     }
 
-    explicit operator bool() const { return !IsEmpty(); }
+    /// Implicit, so that `bool loaded = reference;` reads as written. Beware that it also lets two
+    /// references meet in `==` or `<` as booleans: compare their Id()s instead.
+    operator bool() const { return !IsEmpty(); }
     bool IsEmpty() const { return !pointer && id.IsEmpty(); }
 
     operator Identifier() const { return id; }

@@ -34,8 +34,13 @@ Clock ToClock(const Rate& rate, int64_t totalSample, bool isDrop)
     const int64_t perTenMinutes = nominal * 600 - dropped * 9;
     const int64_t perDay = perTenMinutes * (kSecondsPerDay / 600);
 
-    const int64_t days = FloorDivide(totalSample, perDay);
-    int64_t frames = totalSample - days * perDay;
+    // Floor division by remainder, so that the smallest sample counts do not overflow.
+    int64_t days = totalSample / perDay;
+    int64_t frames = totalSample % perDay;
+    if (frames < 0) {
+        frames += perDay;
+        --days;
+    }
     if (dropped != 0) {
         const int64_t tens = frames / perTenMinutes;
         const int64_t rest = frames % perTenMinutes;

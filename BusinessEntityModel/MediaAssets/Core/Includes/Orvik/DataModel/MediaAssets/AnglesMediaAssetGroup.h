@@ -15,6 +15,7 @@ public:
     static const Utf8String& StaticType();
 
     AnglesMediaAssetGroup() : AnglesMediaAssetGroup(Identifier::Empty()) {}
+    /// Explicit: an identifier is not a group; an implicit conversion would let `x == id` compile.
     explicit AnglesMediaAssetGroup(const MediaAssetGroupId& id) : MediaAssetGroup(id, StaticType()) {}
 
     /// True when the metadata holds an AnglesPelkOperatorMetadataProfile under its name (a full

@@ -13,6 +13,7 @@ namespace Orvik::DataModel::MediaAssets {
 /// intended.
 class AnglesMediaAssetGroupItem : public MediaAssetGroupItem {
 public:
+    /// Explicit: a text is not an item.
     explicit AnglesMediaAssetGroupItem(const Utf8String& name) : name(name) {}
     /// Shares the asset with `asset`.
     AnglesMediaAssetGroupItem(const Utf8String& name, const MediaAssetReference& asset)

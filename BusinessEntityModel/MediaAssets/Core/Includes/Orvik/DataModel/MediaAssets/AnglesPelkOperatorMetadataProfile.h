@@ -20,6 +20,7 @@ class AnglesPelkOperatorMetadataProfile : public PersistentObject, public Metada
 public:
     AnglesPelkOperatorMetadataProfile() = default;
     /// Server, page, bank and row (as the clip number) taken from `id`.
+    /// Explicit: a clip code is not a profile.
     explicit AnglesPelkOperatorMetadataProfile(const MediaAssets::PelkId& id);
     AnglesPelkOperatorMetadataProfile(AnglesPelkOperatorMetadataProfile&& other) noexcept = default;
     AnglesPelkOperatorMetadataProfile& operator=(const AnglesPelkOperatorMetadataProfile& other) = default;

@@ -17,6 +17,7 @@ namespace Orvik::DataModel::MediaAssets {
 /// default constructor.
 class Annotation : public PersistentObject {
 public:
+    /// Explicit: a kind alone is not an annotation.
     explicit Annotation(AnnotationType type) : type(type) {}
     Annotation(AnnotationType type, const Utf8String& data) : type(type), data(data) {}
 

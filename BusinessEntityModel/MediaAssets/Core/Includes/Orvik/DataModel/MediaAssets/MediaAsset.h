@@ -43,6 +43,7 @@ using MediaAssetReference = SharedReference<MediaAsset>;
 class MediaAsset : public PersistentObject {
 public:
     MediaAsset() : MediaAsset(Identifier::Empty()) {}
+    /// Explicit: an identifier is not an asset; an implicit conversion would let `x == id` compile.
     explicit MediaAsset(const MediaAssetId& id) : id(id) {}
 
     bool operator==(const MediaAsset& other) const;
@@ -97,7 +98,8 @@ public:
     const PelkOperatorMetadataProfile& PelkOperatorMetadata() const;
 
     /// The in/out duration: zero while the out boundary is unset, otherwise out minus in, even
-    /// when the in boundary is unset.
+    /// when the in boundary is unset. The subtraction is plain 64-bit and wraps around: an out
+    /// boundary at 250 ns against an unset in boundary gives -9223372036854775559 ns.
     MediaAssets::Duration GetDuration() const { return GetInOutDuration(); }
 
     MediaAsset Clone() const;

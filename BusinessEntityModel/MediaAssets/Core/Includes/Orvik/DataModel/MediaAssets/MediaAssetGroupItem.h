@@ -15,6 +15,7 @@ namespace Orvik::DataModel::MediaAssets {
 class MediaAssetGroupItem : public PersistentObject {
 public:
     MediaAssetGroupItem() = default;
+    /// Explicit: a reference is not an item; an implicit conversion would let `item == reference` compile.
     explicit MediaAssetGroupItem(const MediaAssetReference& asset) : mediaAsset(asset) {}
     virtual ~MediaAssetGroupItem() = default;
 

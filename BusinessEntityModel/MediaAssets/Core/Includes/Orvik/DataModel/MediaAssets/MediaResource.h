@@ -36,6 +36,7 @@ using MediaResourceReferenceVector = SortedVector<MediaResourceReference>;
 class MediaResource : public PersistentObject {
 public:
     MediaResource();
+    /// Explicit: an identifier is not a resource; an implicit conversion would let `x == id` compile.
     explicit MediaResource(const MediaResourceId& id);
 
     bool operator==(const MediaResource& other) const;

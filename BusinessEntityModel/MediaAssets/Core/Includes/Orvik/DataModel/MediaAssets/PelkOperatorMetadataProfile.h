@@ -44,6 +44,7 @@ public:
 
     PelkOperatorMetadataProfile() = default;
     /// Server, page, bank, row (as the clip number) and camera taken from `id`.
+    /// Explicit: a clip code is not a profile.
     explicit PelkOperatorMetadataProfile(const MediaAssets::PelkId& id);
     PelkOperatorMetadataProfile(PelkOperatorMetadataProfile&& other) noexcept = default;
     PelkOperatorMetadataProfile& operator=(const PelkOperatorMetadataProfile& other) = default;

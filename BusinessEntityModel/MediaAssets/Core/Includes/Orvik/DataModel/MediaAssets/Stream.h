@@ -34,6 +34,7 @@ using StreamReference = SharedReference<Stream>;
 class Stream : public PersistentObject {
 public:
     Stream();
+    /// Explicit: an identifier is not a stream; an implicit conversion would let `x == id` compile.
     explicit Stream(const StreamId& id);
     Stream(const Stream& other);
     Stream& operator=(const Stream& other);

@@ -42,8 +42,8 @@ public:
     const TimeBoundary& OutBoundary() const { return outBoundary; }
     void OutBoundary(const TimeBoundary& value) { outBoundary = value; }
 
-    /// The sum of out minus in over the stretches (plain 64-bit arithmetic); the array's own
-    /// boundaries take no part.
+    /// The sum of out minus in over the stretches, in plain 64-bit arithmetic that wraps around
+    /// (never clamps, never throws); the array's own boundaries take no part.
     Duration GetDuration() const;
     /// True when two different stretches overlap (touching ones do not).
     bool HasOverlappingTimeBounds() const;

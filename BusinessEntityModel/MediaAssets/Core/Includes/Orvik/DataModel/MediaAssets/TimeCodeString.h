@@ -14,7 +14,9 @@ namespace Orvik::DataModel::MediaAssets {
 class TimeCodeString {
 public:
     TimeCodeString() = default;
-    explicit TimeCodeString(const std::string& text) { Set(text); }
+    /// Implicit, so that a text goes where a timecode text is expected (`jump.TimeCode(text)`);
+    /// the conversion checks the text and throws as Set() does.
+    TimeCodeString(const std::string& text) { Set(text); }
 
     void Set(const std::string& text);
     bool IsStringFormatValid(const std::string& text) const;

@@ -21,6 +21,7 @@ public:
     using ChannelVector = std::vector<std::shared_ptr<TrackChannelToRemove>>;
 
     Track() : Track(Identifier::Empty()) {}
+    /// Explicit: an identifier is not a track; an implicit conversion would let `x == id` compile.
     explicit Track(const TrackId& id) : id(id) {}
     Track(const TrackId& id, const Utf8String& name) : id(id), name(name) {}
 

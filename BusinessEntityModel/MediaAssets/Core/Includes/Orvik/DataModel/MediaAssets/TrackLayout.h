@@ -14,6 +14,7 @@ namespace Orvik::DataModel::MediaAssets {
 class TrackLayout : public PersistentObject {
 public:
     TrackLayout() : TrackLayout(Identifier::Empty()) {}
+    /// Explicit: an identifier is not a layout; an implicit conversion would let `x == id` compile.
     explicit TrackLayout(const Identifier& id) : id(id) {}
     TrackLayout(const Identifier& id, const Utf8String& name) : id(id), name(name) {}
 

@@ -17,6 +17,7 @@ namespace Orvik::DataModel::MediaAssets {
 /// copy keeps it).
 class TrackLayoutItem : public PersistentObject {
 public:
+    /// Explicit: an identifier is not a layout item; an implicit conversion would let `x == id` compile.
     explicit TrackLayoutItem(const Identifier& id) : id(id) {}
 
     bool operator<(const TrackLayoutItem& other) const { return id < other.id; }

@@ -43,6 +43,7 @@ public:
 
     /// Empty().
     constexpr PelkId() = default;
+    /// Explicit: a bare number is not a clip code (`id == 456` would compile).
     explicit PelkId(int position) { Position(position); }
     PelkId(int position, char camera) : camera(camera) { Position(position); }
     PelkId(int page, int bank, int row) : PelkId(ZanServerId(), page, bank, row, '\0') {}
@@ -58,7 +59,7 @@ public:
           row(static_cast<uint8_t>(row)), camera(camera)
     {
     }
-    /// FromUri(text).
+    /// FromUri(text). Explicit: it may throw, which should not happen behind a conversion.
     explicit PelkId(const std::string& text) : PelkId(FromUri(text)) {}
 
     static constexpr const PelkId& Empty();

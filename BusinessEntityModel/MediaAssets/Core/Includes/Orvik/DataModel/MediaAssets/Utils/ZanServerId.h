@@ -14,7 +14,12 @@ namespace Orvik::DataModel::MediaAssets {
 class ZanServerId {
 public:
     constexpr ZanServerId() = default;
-    constexpr explicit ZanServerId(int serialNumber) : serialNumber(serialNumber) {}
+    /// Implicit, so that a serial number goes where a server is expected (`ZanLocation(120, "A7F3")`,
+    /// `PelkId(120, 1, 2, 3, 'B')`). PelkId's overloads stay unambiguous for the calls that name
+    /// the camera as a character; a call with an int where a camera could stand, which could mean
+    /// page/bank/row or server/position, does not compile: name the server as ZanServerId(n).
+    constexpr ZanServerId(int serialNumber) : serialNumber(serialNumber) {}
+    /// Explicit: reading a text may throw, which should not happen behind an implicit conversion.
     explicit ZanServerId(const std::string& text) : ZanServerId(Parse(text)) {}
 
     static constexpr const ZanServerId& Empty();

@@ -1,0 +1,537 @@
+#include "ArbitraryObjects.h"
+
+#include <Orvik/DataModel/MediaAssets/AnglesMediaAssetGroup.h>
+#include <Orvik/DataModel/MediaAssets/AnglesMediaAssetGroupItem.h>
+#include <Orvik/DataModel/MediaAssets/AudioEssence.h>
+#include <Orvik/DataModel/MediaAssets/DataEssence.h>
+#include <Orvik/DataModel/MediaAssets/DaxContentTrackLocation.h>
+#include <Orvik/DataModel/MediaAssets/DaxProtectLocation.h>
+#include <Orvik/DataModel/MediaAssets/FileLocation.h>
+#include <Orvik/DataModel/MediaAssets/MediaAssetGroupItem.h>
+#include <Orvik/DataModel/MediaAssets/TrackChannel.h>
+#include <Orvik/DataModel/MediaAssets/TrackChannelToRemove.h>
+#include <Orvik/DataModel/MediaAssets/VideoEssence.h>
+#include <Orvik/DataModel/MediaAssets/ZanLocation.h>
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <utility>
+
+namespace Orvik::Testing {
+
+namespace Model = DataModel::MediaAssets;
+
+namespace {
+
+// How many values each enumeration has (its numbers run from 0).
+constexpr uint64_t kAnnotationTypes = 2;
+constexpr uint64_t kArchiveStatuses = 3;
+constexpr uint64_t kAssetTypes = 3;
+constexpr uint64_t kAudioCodingFormats = 9;
+constexpr uint64_t kBitRateModes = 3;
+constexpr uint64_t kBoxings = 9;
+constexpr uint64_t kChromaSubSamplings = 8;
+constexpr uint64_t kColorSpaces = 9;
+constexpr uint64_t kFillAndKeyTypes = 3;
+constexpr uint64_t kResourceFormats = 2;
+constexpr uint64_t kScanModes = 3;
+constexpr uint64_t kTimeCodeStandards = 4;
+constexpr uint64_t kTimecodePrimaries = 3;
+constexpr uint64_t kUserTimecodeTypes = 3;
+constexpr uint64_t kVideoCodingFormats = 54;
+constexpr uint64_t kWrapperFormats = 36;
+
+// Characters that texts are made of: plain ones, the ones a printer must escape, a two-byte and a
+// three-byte UTF-8 sequence.
+const char* const kPieces[] = {"a", "B", "z", "0", "7", " ", "-", "/", ".", "\"", "\\", "\n", "\xC3\xA9", "\xE2\x82\xAC"};
+
+template <typename E>
+E Pick(ArbitraryObjects& any, uint64_t count)
+{
+    return static_cast<E>(any.Below(count));
+}
+
+int32_t SmallInt(ArbitraryObjects& any)
+{
+    static const int32_t values[] = {0, 1, -1, 2, 25, 1000, std::numeric_limits<int32_t>::max(),
+                                     std::numeric_limits<int32_t>::min()};
+    return any.Flip() ? values[any.Below(std::size(values))] : static_cast<int32_t>(any.Between(-5, 100000));
+}
+
+}  // namespace
+
+ArbitraryObjects::ArbitraryObjects(uint64_t seed) : engine(seed) {}
+
+ArbitraryObjects::ArbitraryObjects(const uint8_t* data, size_t size) : fromBytes(true), data(data), size(size) {}
+
+uint64_t ArbitraryObjects::Draw(size_t bytes)
+{
+    if (!fromBytes)
+        return engine();
+    uint64_t value = 0;
+    for (size_t i = 0; i < bytes; ++i) {
+        const uint8_t byte = position < size ? data[position] : 0;
+        ++position;
+        value = (value << 8) | byte;
+    }
+    return value;
+}
+
+uint64_t ArbitraryObjects::Below(uint64_t count)
+{
+    if (count <= 1)
+        return 0;
+    size_t bytes = 1;
+    while (bytes < 8 && (count - 1) >> (8 * bytes) != 0)
+        ++bytes;
+    return Draw(bytes) % count;
+}
+
+int64_t ArbitraryObjects::Between(int64_t min, int64_t max)
+{
+    const uint64_t span = static_cast<uint64_t>(max) - static_cast<uint64_t>(min) + 1;
+    const uint64_t offset = span == 0 ? Draw(8) : Below(span);
+    return static_cast<int64_t>(static_cast<uint64_t>(min) + offset);
+}
+
+std::string ArbitraryObjects::Text()
+{
+    std::string text;
+    const uint64_t length = Below(7);
+    for (uint64_t i = 0; i < length; ++i)
+        text += kPieces[Below(std::size(kPieces))];
+    return text;
+}
+
+Model::Identifier ArbitraryObjects::Id(const char* prefix, size_t index)
+{
+    // Unique within its collection through the index; the text in front varies the order.
+    return Model::Identifier(Text() + prefix + std::to_string(index));
+}
+
+Model::TimePoint ArbitraryObjects::TimePoint()
+{
+    switch (Below(4)) {
+    case 0:
+        return Model::TimePoint::Empty();
+    case 1:
+        return Model::TimePoint(Between(std::numeric_limits<int64_t>::min(), std::numeric_limits<int64_t>::max()));
+    default:
+        return Model::TimePoint(Between(-1000, 100000) * 1000000);
+    }
+}
+
+Model::TimeBoundary ArbitraryObjects::Boundary()
+{
+    return Below(3) == 0 ? Model::TimeBoundary::Empty() : Model::TimeBoundary(TimePoint(), Flip());
+}
+
+Model::TimeBounds ArbitraryObjects::Bounds()
+{
+    return Model::TimeBounds(Boundary(), Boundary());
+}
+
+Model::Timecode ArbitraryObjects::Timecode()
+{
+    static const TimePoints::Rate rates[] = {{25, 1}, {30000, 1001}, {50, 1}, {60000, 1001}, {0, 1}};
+    return Model::Timecode(rates[Below(std::size(rates))], Between(-10, 10000000), Flip(), Flip());
+}
+
+std::string ArbitraryObjects::TimeCodeText()
+{
+    auto twoDigits = [](int64_t value) { return (value < 10 ? "0" : "") + std::to_string(value); };
+    const int64_t hours = Between(0, 24);
+    std::string text = hours < 10 && Flip() ? std::to_string(hours) : twoDigits(hours);
+    text += ":" + twoDigits(Between(0, 59)) + ":" + twoDigits(Between(0, 59));
+    text += Flip() ? ";" : ":";
+    return text + twoDigits(Between(0, 29));
+}
+
+Model::TimeBoundsArray ArbitraryObjects::TimeBoundsArray()
+{
+    Model::TimeBoundsArray array;
+    array.InBoundary(Boundary());
+    array.OutBoundary(Boundary());
+    const uint64_t count = Below(4);
+    for (uint64_t i = 0; i < count; ++i) {
+        const Model::TimeBounds bounds = Bounds();
+        if (std::find(array.begin(), array.end(), bounds) == array.end())
+            array.Insert(bounds);
+    }
+    return array;
+}
+
+Model::PelkOperatorMetadataProfile ArbitraryObjects::PelkOperatorProfile()
+{
+    Model::PelkOperatorMetadataProfile profile;
+    profile.ObjectId(Between(-1, 1000));
+    profile.ServerId(Model::ZanServerId(static_cast<int>(Between(0, 3) * 10)));
+    profile.Page(SmallInt(*this));
+    profile.Bank(SmallInt(*this));
+    profile.Clip(SmallInt(*this));
+    profile.Camera(Flip() ? '\0' : static_cast<char>('A' + Below(12)));
+    profile.UmId(Text());
+    profile.VarId(Text());
+    profile.Rating(SmallInt(*this));
+    profile.ArchiveStatus(Pick<Model::ArchiveStatus>(*this, kArchiveStatuses));
+    profile.UserTimecodeType(Pick<Model::UserTimecodeType>(*this, kUserTimecodeTypes));
+    profile.PrimaryTimecode(Pick<Model::TimecodePrimary>(*this, kTimecodePrimaries));
+    profile.UserTimecode(Timecode());
+    profile.TodTimecode(Timecode());
+    profile.Icon(Text());
+    profile.Color(static_cast<uint32_t>(Draw(4)));
+    profile.FillAndKeyType(Pick<Model::FillAndKeyType>(*this, kFillAndKeyTypes));
+    profile.FillAndKeyMediaAssetId(Model::Identifier(Text()));
+    const uint64_t keywords = Below(7);
+    for (uint64_t i = 0; i < keywords; ++i)
+        profile.Keyword(i, Text());
+    profile.UserProtected(Flip());
+    profile.PelkUIProtected(Flip());
+    return profile;
+}
+
+Model::AnglesPelkOperatorMetadataProfile ArbitraryObjects::AnglesPelkOperatorProfile()
+{
+    Model::AnglesPelkOperatorMetadataProfile profile;
+    profile.ObjectId(Between(-1, 1000));
+    profile.ServerId(Model::ZanServerId(static_cast<int>(Between(0, 3) * 10)));
+    profile.Page(SmallInt(*this));
+    profile.Bank(SmallInt(*this));
+    profile.Clip(SmallInt(*this));
+    return profile;
+}
+
+void ArbitraryObjects::FillMetadata(Model::MetadataProfileDictionary& dictionary)
+{
+    switch (Below(3)) {
+    case 0:
+        break;
+    case 1:
+        dictionary.Set(std::make_shared<Model::PelkOperatorMetadataProfile>(PelkOperatorProfile()));
+        break;
+    default:
+        dictionary.Set(std::make_shared<Model::AnglesPelkOperatorMetadataProfile>(AnglesPelkOperatorProfile()));
+        break;
+    }
+}
+
+Model::MetadataProfileDictionary ArbitraryObjects::MetadataDictionary()
+{
+    Model::MetadataProfileDictionary dictionary;
+    FillMetadata(dictionary);
+    return dictionary;
+}
+
+Model::TimeCodeTable ArbitraryObjects::TimeCodeTable()
+{
+    Model::TimeCodeTable table;
+    table.FullyQualifiedName(Model::FullyQualifiedName(Text()));
+    table.Standard(Pick<Model::TimeCodeStandard>(*this, kTimeCodeStandards));
+    table.Type(Text());
+    const uint64_t jumps = Below(4);
+    for (uint64_t i = 0; i < jumps; ++i) {
+        // Distinct time points: a jump equal to the one at its place would be refused.
+        const Model::TimePoint point(static_cast<int64_t>(i) * 40000000 + Between(0, 39999999));
+        table.TimeCodeJumpItems().Insert(
+            std::make_shared<Model::TimeCodeJump>(point, Model::TimeCodeString(TimeCodeText()), Between(-1, 100000)));
+    }
+    return table;
+}
+
+std::unique_ptr<Model::Essence> ArbitraryObjects::Essence(
+    const std::vector<std::shared_ptr<Model::TimeCodeTable>>& tables)
+{
+    std::unique_ptr<Model::Essence> essence;
+    switch (Below(3)) {
+    case 0: {
+        auto audio = std::make_unique<Model::AudioEssence>();
+        audio->AudioCodec(Pick<Model::AudioCodingFormat>(*this, kAudioCodingFormats));
+        audio->BitRate(SmallInt(*this));
+        audio->BitRateMode(Pick<Model::BitRateMode>(*this, kBitRateModes));
+        audio->SampleRate(Model::Rate(SmallInt(*this), SmallInt(*this)));
+        audio->BitDepth(SmallInt(*this));
+        audio->FourCC(Text());
+        essence = std::move(audio);
+        break;
+    }
+    case 1:
+        essence = std::make_unique<Model::DataEssence>();
+        break;
+    default: {
+        auto video = std::make_unique<Model::VideoEssence>();
+        video->VideoCodec(Pick<Model::VideoCodingFormat>(*this, kVideoCodingFormats));
+        video->BitRate(SmallInt(*this));
+        video->BitRateMode(Pick<Model::BitRateMode>(*this, kBitRateModes));
+        video->BitDepth(SmallInt(*this));
+        video->FrameRate(Model::Rate(SmallInt(*this), SmallInt(*this)));
+        video->Height(SmallInt(*this));
+        video->Width(SmallInt(*this));
+        video->ChromaSubSampling(Pick<Model::ChromaSubSampling>(*this, kChromaSubSamplings));
+        video->ColorSpace(Pick<Model::ColorSpace>(*this, kColorSpaces));
+        video->ScanMode(Pick<Model::ScanMode>(*this, kScanModes));
+        video->FourCC(Text());
+        video->AspectRatio(Model::AspectRatio(SmallInt(*this), SmallInt(*this)));
+        video->Boxing(Pick<Model::Boxing>(*this, kBoxings));
+        essence = std::move(video);
+        break;
+    }
+    }
+    essence->ObjectId(Between(-1, 1000));
+    essence->ChannelCount(SmallInt(*this));
+    essence->Nr(static_cast<int32_t>(Between(-2, 4)));
+    FillMetadata(essence->Metadata());
+    const uint64_t channels = Below(4);
+    for (uint64_t i = 0; i < channels; ++i)  // distinct numbers: no refused duplicate
+        essence->TrackChannels().Insert(
+            std::make_shared<Model::TrackChannel>(Model::Identifier(Text()), static_cast<int32_t>(i) * 3 - 1));
+    for (const auto& table : tables)  // a table equal to one already there would be refused
+        if (Flip() && essence->Timecodes().ConstFind(table) == essence->Timecodes().end())
+            essence->Timecodes().Insert(table);
+    return essence;
+}
+
+std::unique_ptr<Model::Essence> ArbitraryObjects::Essence()
+{
+    std::vector<std::shared_ptr<Model::TimeCodeTable>> tables;
+    const uint64_t count = Below(3);
+    for (uint64_t i = 0; i < count; ++i)
+        tables.push_back(std::make_shared<Model::TimeCodeTable>(TimeCodeTable()));
+    return Essence(tables);
+}
+
+std::unique_ptr<Model::Location> ArbitraryObjects::Location()
+{
+    switch (Below(4)) {
+    case 0: {
+        auto file = std::make_unique<Model::FileLocation>();
+        file->Name(Text());
+        file->Size(Between(-1, 1LL << 40));
+        file->IsReadOnly(Flip());
+        file->CreationDate(Between(0, 2000000000));
+        file->ModificationDate(Between(0, 2000000000));
+        file->LastAccessDate(Between(0, 2000000000));
+        file->Uri(Model::URI(Text()));
+        return file;
+    }
+    case 1: {
+        auto contentTrack = std::make_unique<Model::DaxContentTrackLocation>();
+        contentTrack->ServerId(Model::Identifier(Text()));
+        contentTrack->PartitionId(Model::Identifier(Text()));
+        contentTrack->ContentTrackId(Model::Identifier(Text()));
+        return contentTrack;
+    }
+    case 2: {
+        auto protect = std::make_unique<Model::DaxProtectLocation>();
+        protect->ServerId(Model::Identifier(Text()));
+        protect->Uri(Model::URI(Text()));
+        return protect;
+    }
+    default:
+        return std::make_unique<Model::ZanLocation>(Model::ZanServerId(static_cast<int>(Between(-1, 3) * 10)), Text());
+    }
+}
+
+Model::Stream ArbitraryObjects::Stream(size_t index)
+{
+    Model::Stream stream(Id("stream-", index));
+    stream.ObjectId(Between(-1, 1000));
+    stream.Format(Pick<Model::WrapperFormat>(*this, kWrapperFormats));
+    stream.Timebounds(TimeBoundsArray());
+    FillMetadata(stream.Metadata());
+    // The essences of a stream share its timecode tables.
+    std::vector<std::shared_ptr<Model::TimeCodeTable>> tables;
+    const uint64_t tableCount = Below(3);
+    for (uint64_t i = 0; i < tableCount; ++i)
+        tables.push_back(std::make_shared<Model::TimeCodeTable>(TimeCodeTable()));
+    const uint64_t essences = Below(4);
+    for (uint64_t i = 0; i < essences; ++i)
+        stream.Essences().Add(Essence(tables));
+    const uint64_t locations = Below(3);
+    for (uint64_t i = 0; i < locations; ++i)
+        stream.Locations().Add(Location());
+    return stream;
+}
+
+Model::Stream ArbitraryObjects::Stream()
+{
+    return Stream(0);
+}
+
+Model::MediaResource ArbitraryObjects::MediaResource(size_t index, size_t firstStream)
+{
+    Model::MediaResource resource(Id("resource-", index));
+    resource.ObjectId(Between(-1, 1000));
+    resource.Name(Text());
+    resource.GeneralFormat(Pick<Model::ResourceFormat>(*this, kResourceFormats));
+    const uint64_t streams = Below(4);
+    for (uint64_t i = 0; i < streams; ++i) {
+        if (Below(4) == 0)
+            resource.Add(Id("stream-", firstStream + i));
+        else
+            resource.Adopt(std::make_unique<Model::Stream>(Stream(firstStream + i)));
+    }
+    resource.Timebounds(TimeBoundsArray());
+    resource.CreationDate(Between(0, 2000000000));
+    resource.ModificationDate(Between(0, 2000000000));
+    FillMetadata(resource.Metadata());
+    return resource;
+}
+
+Model::MediaResource ArbitraryObjects::MediaResource()
+{
+    return MediaResource(0, 0);
+}
+
+Model::Track ArbitraryObjects::Track(size_t index, const std::vector<std::shared_ptr<Model::Stream>>& streams)
+{
+    Model::Track track(Id("track-", index), Text());
+    track.ObjectId(Between(-1, 1000));
+    const uint64_t channels = Below(4);
+    for (uint64_t i = 0; i < channels; ++i) {
+        auto channel = std::make_shared<Model::TrackChannelToRemove>();
+        const uint64_t choice = Below(streams.size() + 2);
+        if (choice < streams.size())
+            channel->Stream(Model::StreamReference(streams[choice]));
+        else if (choice == streams.size())
+            channel->Stream(Model::StreamReference(Id("stream-", 100 + i)));
+        channel->EssenceNr(static_cast<int32_t>(Between(-1, 3)));
+        channel->ChannelNr(static_cast<int32_t>(Between(-1, 8)));
+        track.Channels().push_back(std::move(channel));
+    }
+    return track;
+}
+
+Model::Track ArbitraryObjects::Track()
+{
+    std::vector<std::shared_ptr<Model::Stream>> streams;
+    if (Flip())
+        streams.push_back(std::make_shared<Model::Stream>(Stream(0)));
+    return Track(0, streams);
+}
+
+Model::TrackLayout ArbitraryObjects::TrackLayout(size_t index, const std::vector<std::shared_ptr<Model::Track>>& tracks)
+{
+    Model::TrackLayout layout(Id("layout-", index), Text());
+    layout.ObjectId(Between(-1, 1000));
+    const uint64_t items = Below(3);
+    for (uint64_t i = 0; i < items; ++i) {
+        Model::TrackLayoutItem item(Id("item-", i));
+        item.ObjectId(Between(-1, 1000));
+        item.Name(Text());
+        for (const auto& track : tracks)
+            if (Flip())
+                item.Tracks().Insert(track);
+        layout.TrackLayoutItems().Insert(item);
+    }
+    return layout;
+}
+
+Model::TrackLayout ArbitraryObjects::TrackLayout()
+{
+    std::vector<std::shared_ptr<Model::Track>> tracks;
+    const uint64_t count = Below(3);
+    for (uint64_t i = 0; i < count; ++i)
+        tracks.push_back(std::make_shared<Model::Track>(Track(i, {})));
+    keptTracks.insert(keptTracks.end(), tracks.begin(), tracks.end());
+    return TrackLayout(0, tracks);
+}
+
+Model::Annotation ArbitraryObjects::Annotation()
+{
+    Model::Annotation annotation(Pick<Model::AnnotationType>(*this, kAnnotationTypes), Text());
+    annotation.ObjectId(Between(-1, 1000));
+    annotation.TimeBounds(Bounds());
+    FillMetadata(annotation.Metadata());
+    return annotation;
+}
+
+Model::MediaAsset ArbitraryObjects::MediaAsset()
+{
+    Model::MediaAsset asset{Model::MediaAssetId(Text())};
+    asset.ObjectId(Between(-1, 1000));
+    asset.AssetType(Pick<Model::AssetType>(*this, kAssetTypes));
+    asset.Ancestor(AssetReference());
+    asset.Parent(AssetReference());
+    asset.Name(Text());
+    asset.Description(Text());
+    asset.PhysicalTimebounds(TimeBoundsArray());
+    asset.CreationDate(Between(0, 2000000000));
+    asset.ModificationDate(Between(0, 2000000000));
+    FillMetadata(asset.Metadata());
+
+    std::vector<std::shared_ptr<Model::Stream>> streams;
+    const uint64_t resources = Below(3);
+    for (uint64_t r = 0; r < resources; ++r) {
+        if (Below(4) == 0) {
+            asset.MediaResources().Insert(Model::MediaResourceReference(Id("resource-", r)));
+            continue;
+        }
+        auto resource = std::make_shared<Model::MediaResource>(MediaResource(r, r * 10));
+        for (auto& stream : resource->Streams())
+            if (stream.Pointer())
+                streams.push_back(stream.Pointer());
+        asset.MediaResources().Insert(Model::MediaResourceReference(resource));
+    }
+
+    std::vector<std::shared_ptr<Model::Track>> tracks;
+    const uint64_t trackCount = Below(4);
+    for (uint64_t t = 0; t < trackCount; ++t) {
+        tracks.push_back(std::make_shared<Model::Track>(Track(t, streams)));
+        asset.Tracks().Insert(tracks.back());
+    }
+    const uint64_t layouts = Below(3);
+    for (uint64_t l = 0; l < layouts; ++l)
+        asset.TrackLayouts().Insert(std::make_shared<Model::TrackLayout>(TrackLayout(l, tracks)));
+    const uint64_t annotations = Below(3);
+    for (uint64_t a = 0; a < annotations; ++a)
+        asset.Annotations().push_back(std::make_shared<Model::Annotation>(Annotation()));
+    return asset;
+}
+
+Model::MediaAssetReference ArbitraryObjects::AssetReference()
+{
+    switch (Below(3)) {
+    case 0:
+        return Model::MediaAssetReference();
+    case 1:
+        return Model::MediaAssetReference(Model::MediaAssetId(Text()));
+    default:
+        return Model::MediaAssetReference(std::make_shared<Model::MediaAsset>(Model::MediaAssetId(Text())));
+    }
+}
+
+std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::Group(bool angles)
+{
+    std::shared_ptr<Model::MediaAssetGroup> group;
+    if (angles)
+        group = std::make_shared<Model::AnglesMediaAssetGroup>(Model::MediaAssetGroupId(Text()));
+    else
+        group = std::make_shared<Model::MediaAssetGroup>(Model::MediaAssetGroupId(Text()), Text());
+    group->ObjectId(Between(-1, 1000));
+    group->Name(Text());
+    FillMetadata(group->Metadata());
+    const uint64_t items = Below(4);
+    for (uint64_t i = 0; i < items; ++i) {
+        std::shared_ptr<Model::MediaAssetGroupItem> item;
+        if (angles ? Below(4) != 0 : Flip())
+            item = std::make_shared<Model::AnglesMediaAssetGroupItem>(Text(), AssetReference());
+        else
+            item = std::make_shared<Model::MediaAssetGroupItem>(AssetReference());
+        item->ObjectId(Between(-1, 1000));
+        group->Items().push_back(std::move(item));
+    }
+    return group;
+}
+
+std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::MediaAssetGroup()
+{
+    return Group(false);
+}
+
+std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::AnglesMediaAssetGroup()
+{
+    return Group(true);
+}
+
+}  // namespace Orvik::Testing
