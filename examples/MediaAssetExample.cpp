@@ -71,8 +71,16 @@ int main()
     }
 
     const MediaAsset handedOver = asset.Clone();
-    std::cout << "The clone " << (handedOver == asset ? "equals" : "differs from") << " the source; its objectId is "
-              << handedOver.ObjectId() << '\n';
+    if (const auto difference = FirstDifference(handedOver, asset))
+        std::cout << "The clone differs from the source at " << difference->Path() << '\n';
+    else
+        std::cout << "The clone equals the source; its objectId is " << handedOver.ObjectId() << '\n';
+
+    MediaAsset edited = handedOver.Clone();
+    edited.Tracks().Front()->Name("Replay");
+    if (const auto difference = FirstDifference(handedOver, edited))
+        std::cout << "Renamed, it differs at " << difference->Path() << ": " << difference->Left() << " against "
+                  << difference->Right() << '\n';
 
     const Stream& stream = handedOver.MediaResources().Front()->Streams().front().Value();
     const auto& video = static_cast<const VideoEssence&>(stream.Essences()[0]);

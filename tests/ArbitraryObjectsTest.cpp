@@ -9,7 +9,7 @@ using Orvik::Testing::ArbitraryObjects;
 
 namespace {
 
-// Draws one object of every kind, in a fixed order, from `any`.
+// Draws one object of every kind from each generator, in the same order, and checks each pair.
 template <typename Check>
 void DrawEveryKind(ArbitraryObjects& left, ArbitraryObjects& right, Check check)
 {

@@ -21,11 +21,13 @@
 #include <Orvik/DataModel/MediaAssets/DataEssence.h>
 #include <Orvik/DataModel/MediaAssets/DaxContentTrackLocation.h>
 #include <Orvik/DataModel/MediaAssets/DaxProtectLocation.h>
+#include <Orvik/DataModel/MediaAssets/Difference.h>
 #include <Orvik/DataModel/MediaAssets/Essence.h>
 #include <Orvik/DataModel/MediaAssets/EssenceArray.h>
 #include <Orvik/DataModel/MediaAssets/FieldOrdering.h>
 #include <Orvik/DataModel/MediaAssets/FileLocation.h>
 #include <Orvik/DataModel/MediaAssets/FillAndKeyType.h>
+#include <Orvik/DataModel/MediaAssets/FirstDifference.h>
 #include <Orvik/DataModel/MediaAssets/Location.h>
 #include <Orvik/DataModel/MediaAssets/LocationArray.h>
 #include <Orvik/DataModel/MediaAssets/MediaAsset.h>

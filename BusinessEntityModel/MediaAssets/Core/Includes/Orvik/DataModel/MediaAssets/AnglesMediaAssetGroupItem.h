@@ -22,10 +22,7 @@ public:
     }
 
     bool operator==(const MediaAssetGroupItem& other) const override;
-    bool operator==(const AnglesMediaAssetGroupItem& other) const
-    {
-        return MediaAsset().Id() == other.MediaAsset().Id() && name == other.name;
-    }
+    bool operator==(const AnglesMediaAssetGroupItem& other) const;
     bool operator!=(const MediaAssetGroupItem& other) const override { return !(*this == other); }
     bool operator!=(const AnglesMediaAssetGroupItem& other) const { return !(*this == other); }
 

@@ -11,6 +11,10 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
+namespace detail {
+struct ComparisonOrder;
+}  // namespace detail
+
 /// A sound track: codec, bit rate and its mode, sample rate, bit depth and four-character code.
 ///
 /// Equal to another audio essence when the base comparison (see Essence) holds and codec, bit
@@ -44,6 +48,8 @@ protected:
     AudioEssence(const AudioEssence& other) = default;
 
 private:
+    friend struct detail::ComparisonOrder;  // the comparison reads the fields without copies
+
     AudioCodingFormat audioCodec = AudioCodingFormat::unknown;
     int32_t bitRate = 0;
     MediaAssets::BitRateMode bitRateMode = MediaAssets::BitRateMode::unknown;

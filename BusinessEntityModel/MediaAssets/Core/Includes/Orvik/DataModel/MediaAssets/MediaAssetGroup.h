@@ -33,11 +33,7 @@ public:
     MediaAssetGroup& operator=(MediaAssetGroup&&) = default;
     virtual ~MediaAssetGroup() = default;
 
-    bool operator==(const MediaAssetGroup& other) const
-    {
-        return metadata == other.metadata && id == other.id && type == other.type && name == other.name
-            && AreItemsEqual(other);
-    }
+    bool operator==(const MediaAssetGroup& other) const;
     bool operator!=(const MediaAssetGroup& other) const { return !(*this == other); }
 
     const MediaAssetGroupId& Id() const { return id; }

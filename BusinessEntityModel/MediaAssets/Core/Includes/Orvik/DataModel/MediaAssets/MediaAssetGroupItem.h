@@ -19,7 +19,7 @@ public:
     explicit MediaAssetGroupItem(const MediaAssetReference& asset) : mediaAsset(asset) {}
     virtual ~MediaAssetGroupItem() = default;
 
-    virtual bool operator==(const MediaAssetGroupItem& other) const { return mediaAsset.Id() == other.mediaAsset.Id(); }
+    virtual bool operator==(const MediaAssetGroupItem& other) const;
     virtual bool operator!=(const MediaAssetGroupItem& other) const { return !(*this == other); }
 
     const MediaAssetReference& MediaAsset() const { return mediaAsset; }

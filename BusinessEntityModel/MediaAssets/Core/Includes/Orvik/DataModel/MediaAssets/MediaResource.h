@@ -10,6 +10,10 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
+namespace detail {
+struct ComparisonOrder;
+}  // namespace detail
+
 class MediaResource;
 
 using MediaResourceId = Identifier;
@@ -71,6 +75,8 @@ public:
     void Metadata(const std::shared_ptr<MetadataProfileDictionary>& value) { metadata = value; }
 
 private:
+    friend struct detail::ComparisonOrder;  // the comparison reads the fields without copies
+
     MediaResourceId id;
     Utf8String name;
     ResourceFormat generalFormat = ResourceFormat::unknown;

@@ -19,6 +19,10 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
+namespace detail {
+struct ComparisonOrder;
+}  // namespace detail
+
 /// What the slow-motion controller's operators attach to a clip: its place on the video server
 /// (server, page, bank, clip, camera), its identifiers in the operator's system, rating, archive
 /// state, timecodes, icon, colour, keywords, fill-and-key pairing and protection flags. Filed in
@@ -139,6 +143,8 @@ protected:
     PelkOperatorMetadataProfile(const PelkOperatorMetadataProfile& other) = default;
 
 private:
+    friend struct detail::ComparisonOrder;  // the comparison reads the fields without copies
+
     ZanServerId serverId;
     int32_t page = 0;
     int32_t bank = 0;

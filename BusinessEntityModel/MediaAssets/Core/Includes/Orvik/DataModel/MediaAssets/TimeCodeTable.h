@@ -25,11 +25,7 @@ public:
     SortedVectorSharedPointer<TimeCodeJump>& TimeCodeJumpItems() { return timeCodeJumpItems_; }
     const SortedVectorSharedPointer<TimeCodeJump>& TimeCodeJumpItems() const { return timeCodeJumpItems_; }
 
-    bool operator==(const TimeCodeTable& other) const
-    {
-        return fqn_ == other.fqn_ && standard_ == other.standard_ && type_ == other.type_
-            && timeCodeJumpItems_ == other.timeCodeJumpItems_;
-    }
+    bool operator==(const TimeCodeTable& other) const;
     bool operator!=(const TimeCodeTable& other) const { return !(*this == other); }
     bool operator<(const TimeCodeTable& other) const { return fqn_ < other.fqn_; }
 

@@ -26,7 +26,7 @@ public:
     Track(const TrackId& id, const Utf8String& name) : id(id), name(name) {}
 
     bool operator<(const Track& other) const { return id < other.id; }
-    bool operator==(const Track& other) const { return id == other.id && name == other.name; }
+    bool operator==(const Track& other) const;
     bool operator!=(const Track& other) const { return !(*this == other); }
 
     const TrackId& Id() const { return id; }

@@ -19,10 +19,7 @@ public:
     TrackLayout(const Identifier& id, const Utf8String& name) : id(id), name(name) {}
 
     bool operator<(const TrackLayout& other) const { return id < other.id; }
-    bool operator==(const TrackLayout& other) const
-    {
-        return id == other.id && name == other.name && trackLayoutItems == other.trackLayoutItems;
-    }
+    bool operator==(const TrackLayout& other) const;
     bool operator!=(const TrackLayout& other) const { return !(*this == other); }
 
     const Identifier& Id() const { return id; }

@@ -21,10 +21,7 @@ public:
     explicit TrackLayoutItem(const Identifier& id) : id(id) {}
 
     bool operator<(const TrackLayoutItem& other) const { return id < other.id; }
-    bool operator==(const TrackLayoutItem& other) const
-    {
-        return id == other.id && name == other.name && tracks == other.tracks;
-    }
+    bool operator==(const TrackLayoutItem& other) const;
     bool operator!=(const TrackLayoutItem& other) const { return !(*this == other); }
 
     const Identifier& Id() const { return id; }

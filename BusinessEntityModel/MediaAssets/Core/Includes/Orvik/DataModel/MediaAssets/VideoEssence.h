@@ -16,6 +16,10 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
+namespace detail {
+struct ComparisonOrder;
+}  // namespace detail
+
 /// A picture track: coding, bit rate, geometry, colour description, scan mode and framing.
 ///
 /// Equal to another video essence when the base comparison (see Essence) holds and codec, bit
@@ -65,6 +69,8 @@ protected:
     VideoEssence(const VideoEssence& other) = default;
 
 private:
+    friend struct detail::ComparisonOrder;  // the comparison reads the fields without copies
+
     VideoCodingFormat videoCodec = VideoCodingFormat::unknown;
     int32_t bitRate = 0;
     MediaAssets::BitRateMode bitRateMode = MediaAssets::BitRateMode::unknown;

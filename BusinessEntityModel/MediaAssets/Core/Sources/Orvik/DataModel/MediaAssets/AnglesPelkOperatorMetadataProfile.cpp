@@ -1,6 +1,6 @@
 #include <Orvik/DataModel/MediaAssets/AnglesPelkOperatorMetadataProfile.h>
 
-#include "ExactClass.h"
+#include "EqualityVisitor.h"
 
 namespace Orvik::DataModel::MediaAssets {
 
@@ -33,9 +33,7 @@ std::shared_ptr<MetadataProfile> AnglesPelkOperatorMetadataProfile::Clone() cons
 
 bool AnglesPelkOperatorMetadataProfile::Equals(const MetadataProfile& other) const
 {
-    const auto* rhs = detail::ComparableProfile(*this, other);
-    return rhs != nullptr && serverId.SerialNumber() == rhs->serverId.SerialNumber() && page == rhs->page
-        && bank == rhs->bank && clip == rhs->clip;
+    return detail::EqualInOrder(*this, other);
 }
 
 MediaAssets::PelkId AnglesPelkOperatorMetadataProfile::PelkId() const

@@ -1,15 +1,12 @@
 #include <Orvik/DataModel/MediaAssets/Annotation.h>
 
+#include "EqualityVisitor.h"
+
 namespace Orvik::DataModel::MediaAssets {
 
 bool Annotation::operator==(const Annotation& other) const
 {
-    return type == other.type && data == other.data
-        && timeBounds.InBoundary().TimePoint() == other.timeBounds.InBoundary().TimePoint()
-        && timeBounds.InBoundary().IsMoving() == other.timeBounds.InBoundary().IsMoving()
-        && timeBounds.OutBoundary().TimePoint() == other.timeBounds.OutBoundary().TimePoint()
-        && timeBounds.OutBoundary().IsMoving() == other.timeBounds.OutBoundary().IsMoving()
-        && metadata == other.metadata;
+    return detail::EqualInOrder(*this, other);
 }
 
 Annotation Annotation::Clone() const

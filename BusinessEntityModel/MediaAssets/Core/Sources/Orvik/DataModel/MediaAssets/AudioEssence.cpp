@@ -1,16 +1,12 @@
 #include <Orvik/DataModel/MediaAssets/AudioEssence.h>
 
+#include "EqualityVisitor.h"
+
 namespace Orvik::DataModel::MediaAssets {
 
 bool AudioEssence::operator==(const Essence& other) const
 {
-    if (!Essence::operator==(other))  // false for every other kind
-        return false;
-    const auto& rhs = static_cast<const AudioEssence&>(other);
-    return audioCodec == rhs.audioCodec && bitRate == rhs.bitRate && bitRateMode == rhs.bitRateMode
-        && sampleRate.Numerator() == rhs.sampleRate.Numerator()
-        && sampleRate.Denominator() == rhs.sampleRate.Denominator() && bitDepth == rhs.bitDepth
-        && fourCC == rhs.fourCC;
+    return detail::EqualInOrder(*this, other);
 }
 
 std::unique_ptr<Essence> AudioEssence::Clone() const

@@ -1,6 +1,6 @@
 #include <Orvik/DataModel/MediaAssets/DaxContentTrackLocation.h>
 
-#include "ExactClass.h"
+#include "EqualityVisitor.h"
 
 #include <regex>
 
@@ -38,13 +38,7 @@ URI DaxContentTrackLocation::Uri() const
 
 bool DaxContentTrackLocation::operator==(const Location& other) const
 {
-    // Uri() is made of fields compared below: the base comparison (false for every other kind)
-    // decides nothing between two objects of exactly this class.
-    if (!detail::BothExactly<DaxContentTrackLocation, Location>(*this, other) && !Location::operator==(other))
-        return false;
-    const auto& rhs = static_cast<const DaxContentTrackLocation&>(other);
-    return daxServerId == rhs.daxServerId && daxPartitionId == rhs.daxPartitionId
-        && daxContentTrackId == rhs.daxContentTrackId;
+    return detail::EqualInOrder(*this, other);
 }
 
 }  // namespace Orvik::DataModel::MediaAssets

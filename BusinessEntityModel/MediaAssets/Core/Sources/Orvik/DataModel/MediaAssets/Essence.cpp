@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/Essence.h>
 
+#include "EqualityVisitor.h"
+
 #include <Orvik/BusinessEntityModel/BaseTypes/StringAssociation.h>
 
 namespace Orvik::DataModel::MediaAssets {
@@ -29,9 +31,8 @@ Essence::Essence(Essence::Type type) : type(type), metadata(std::make_shared<Met
 
 bool Essence::operator==(const Essence& other) const
 {
-    return type == other.type && channelCount == other.channelCount
-        && (nr == other.nr || nr < 0 || other.nr < 0) && *metadata == *other.metadata
-        && trackChannels == other.trackChannels && timecodes == other.timecodes;
+    detail::EqualityVisitor visitor;
+    return detail::ComparisonOrder::CompareEssenceFields(visitor, *this, other);
 }
 
 void Essence::CloneContentsFrom(const Essence& source)

@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/Location.h>
 
+#include "EqualityVisitor.h"
+
 namespace Orvik::DataModel::MediaAssets {
 
 const Location::LocationTypeEnumConverter& Location::TypeConverter()
@@ -21,7 +23,8 @@ Location::Type Location::ToType(const std::string& text, bool& failed) { return 
 
 bool Location::operator==(const Location& other) const
 {
-    return type == other.type && Uri() == other.Uri();
+    detail::EqualityVisitor visitor;
+    return detail::ComparisonOrder::CompareLocationFields(visitor, *this, other);
 }
 
 }  // namespace Orvik::DataModel::MediaAssets

@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/MediaAsset.h>
 
+#include "EqualityVisitor.h"
+
 #include <memory>
 #include <stdexcept>
 
@@ -14,18 +16,7 @@ constexpr char kNullAnnotation[] = "Orvik::DataModel::MediaAssets::MediaAsset::C
 
 bool MediaAsset::operator==(const MediaAsset& other) const
 {
-    if (id != other.id || assetType != other.assetType || ancestor.Id() != other.ancestor.Id()
-        || parent.Id() != other.parent.Id() || name != other.name || description != other.description
-        || physicalTimebounds != other.physicalTimebounds || creationDate != other.creationDate
-        || modificationDate != other.modificationDate || metadata != other.metadata || tracks != other.tracks
-        || trackLayouts != other.trackLayouts || mediaResources != other.mediaResources
-        || annotations.size() != other.annotations.size())
-        return false;
-    const MediaAssets::equal_to equal;
-    for (size_t i = 0; i < annotations.size(); ++i)
-        if (!equal(annotations[i], other.annotations[i]))
-            return false;
-    return true;
+    return detail::EqualInOrder(*this, other);
 }
 
 bool MediaAsset::HasPelkOperatorMetadata() const

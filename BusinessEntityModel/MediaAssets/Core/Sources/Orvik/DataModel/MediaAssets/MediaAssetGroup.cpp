@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/MediaAssetGroup.h>
 
+#include "EqualityVisitor.h"
+
 #include <algorithm>
 #include <stdexcept>
 #include <string>
@@ -35,12 +37,15 @@ MediaAssetGroupItem& MediaAssetGroup::Item(const MediaAssetGroupId& assetId) con
     return *Found("Item", assetId);
 }
 
+bool MediaAssetGroup::operator==(const MediaAssetGroup& other) const
+{
+    return detail::EqualInOrder(*this, other);
+}
+
 bool MediaAssetGroup::AreItemsEqual(const MediaAssetGroup& other) const
 {
-    return std::equal(items.begin(), items.end(), other.items.begin(), other.items.end(),
-                      [](const std::shared_ptr<MediaAssetGroupItem>& a, const std::shared_ptr<MediaAssetGroupItem>& b) {
-                          return a && b && *a == *b;
-                      });
+    detail::EqualityVisitor visitor;
+    return detail::ComparisonOrder::CompareItems(visitor, *this, other);
 }
 
 const std::shared_ptr<MediaAssetGroupItem>& MediaAssetGroup::Found(const char* operation,

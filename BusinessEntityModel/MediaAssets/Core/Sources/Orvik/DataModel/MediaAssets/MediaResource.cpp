@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/MediaResource.h>
 
+#include "EqualityVisitor.h"
+
 #include <utility>
 
 namespace Orvik::DataModel::MediaAssets {
@@ -13,14 +15,7 @@ MediaResource::MediaResource(const MediaResourceId& id)
 
 bool MediaResource::operator==(const MediaResource& other) const
 {
-    if (id != other.id || name != other.name || generalFormat != other.generalFormat
-        || streams.size() != other.streams.size())
-        return false;
-    for (size_t i = 0; i < streams.size(); ++i)
-        if (streams[i].Id() != other.streams[i].Id())
-            return false;
-    return timebounds == other.timebounds && creationDate == other.creationDate
-        && modificationDate == other.modificationDate && *metadata == *other.metadata;
+    return detail::EqualInOrder(*this, other);
 }
 
 MediaResource MediaResource::Clone() const

@@ -1,6 +1,6 @@
 #include <Orvik/DataModel/MediaAssets/PelkOperatorMetadataProfile.h>
 
-#include "ExactClass.h"
+#include "EqualityVisitor.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -67,17 +67,7 @@ std::shared_ptr<MetadataProfile> PelkOperatorMetadataProfile::Clone() const
 
 bool PelkOperatorMetadataProfile::Equals(const MetadataProfile& other) const
 {
-    // Another profile class may share the name; it is never equal.
-    const auto* rhs = detail::ComparableProfile(*this, other);
-    if (rhs == nullptr)
-        return false;
-    return serverId.SerialNumber() == rhs->serverId.SerialNumber() && page == rhs->page && bank == rhs->bank
-        && clip == rhs->clip && camera == rhs->camera && umId == rhs->umId && varId == rhs->varId
-        && rating == rhs->rating && archiveStatus == rhs->archiveStatus && userTimecodeType == rhs->userTimecodeType
-        && primaryTimecode == rhs->primaryTimecode && userTimecode == rhs->userTimecode
-        && todTimecode == rhs->todTimecode && icon == rhs->icon && color == rhs->color
-        && keywords == rhs->keywords && fillAndKeyType == rhs->fillAndKeyType
-        && fillAndKeyMediaAssetId == rhs->fillAndKeyMediaAssetId;
+    return detail::EqualInOrder(*this, other);
 }
 
 MediaAssets::PelkId PelkOperatorMetadataProfile::PelkId() const

@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/Stream.h>
 
+#include "EqualityVisitor.h"
+
 #include <Orvik/DataModel/MediaAssets/Essence.h>
 #include <Orvik/DataModel/MediaAssets/Location.h>
 
@@ -25,8 +27,7 @@ Stream& Stream::operator=(const Stream& other)
 
 bool Stream::operator==(const Stream& other) const
 {
-    return streamId == other.streamId && format == other.format && timebounds == other.timebounds
-        && *metadata == *other.metadata && essences == other.essences && locations == other.locations;
+    return detail::EqualInOrder(*this, other);
 }
 
 Stream Stream::Clone() const

@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/TimeBoundsArray.h>
 
+#include "EqualityVisitor.h"
+
 #include <algorithm>
 
 namespace Orvik::DataModel::MediaAssets {
@@ -78,8 +80,7 @@ bool TimeBoundsArray::IsValid() const
 
 bool TimeBoundsArray::operator==(const TimeBoundsArray& other) const
 {
-    return inBoundary == other.inBoundary && outBoundary == other.outBoundary
-        && SortedVectorBase::operator==(other);
+    return detail::EqualInOrder(*this, other);
 }
 
 }  // namespace Orvik::DataModel::MediaAssets

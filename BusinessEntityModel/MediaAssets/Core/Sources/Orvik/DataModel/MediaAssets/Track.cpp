@@ -1,8 +1,15 @@
 #include <Orvik/DataModel/MediaAssets/Track.h>
 
+#include "EqualityVisitor.h"
+
 #include <memory>
 
 namespace Orvik::DataModel::MediaAssets {
+
+bool Track::operator==(const Track& other) const
+{
+    return detail::EqualInOrder(*this, other);
+}
 
 Track Track::Clone() const
 {

@@ -1,6 +1,13 @@
 #include <Orvik/DataModel/MediaAssets/TrackLayout.h>
 
+#include "EqualityVisitor.h"
+
 namespace Orvik::DataModel::MediaAssets {
+
+bool TrackLayout::operator==(const TrackLayout& other) const
+{
+    return detail::EqualInOrder(*this, other);
+}
 
 TrackLayout TrackLayout::Clone() const
 {
