@@ -117,6 +117,23 @@ PYBIND11_MAKE_OPAQUE(Orvik::DataModel::MediaAssets::MediaAssetGroupItemArray)
 
 namespace Orvik::Python {
 
+/// Deletes a container bound to Python as exactly the class it was created as. The sorted vectors
+/// have a virtual Insert but, by design, no virtual destructor; Python only ever destroys the
+/// objects it created, of their own class, so destroying them directly is exact (and a plain
+/// delete-expression would draw the non-virtual-destructor warning).
+template <typename T>
+struct DestroyExactly {
+    void operator()(T* object) const
+    {
+        object->~T();
+        ::operator delete(object);
+    }
+};
+
+/// The holder of the sorted vectors' Python objects.
+template <typename T>
+using ContainerHolder = std::unique_ptr<T, DestroyExactly<T>>;
+
 /// How elements of a container cross into Python: values as copies, shared pointers shared,
 /// weak pointers as the shared pointee (None once it has expired).
 template <typename Stored>
@@ -526,5 +543,6 @@ void BindTracks(py::module_& module);
 void BindMediaAsset(py::module_& module);
 void BindOperatorMetadata(py::module_& module);
 void BindGroups(py::module_& module);
+void BindFirstDifference(py::module_& module);
 
 }  // namespace Orvik::Python

@@ -30,19 +30,20 @@ void DefineFirstDifferences(py::module_& module)
 
 void BindFirstDifference(py::module_& module)
 {
-    py::class_<Difference>(module, "Difference",
-                           "The first field where two objects differ: its path in the model's field names "
-                           "(\"mediaResources[2].id\") and the two values as text.")
-        .def(py::init<std::string, std::string, std::string>(), py::arg("path"), py::arg("left"), py::arg("right"))
+    py::class_<Difference> difference(module, "Difference",
+                                      "The first field where two objects differ: its path in the model's field "
+                                      "names (\"mediaResources[2].id\") and the two values as text.");
+    difference.def(py::init<std::string, std::string, std::string>(), py::arg("path"), py::arg("left"), py::arg("right"))
         .def_property_readonly("path", &Difference::Path)
         .def_property_readonly("left", &Difference::Left)
         .def_property_readonly("right", &Difference::Right)
         .def("__repr__", [](const Difference& self) {
             return "Difference(" + Quoted(self.Path()) + ", " + Quoted(self.Left()) + ", " + Quoted(self.Right()) + ")";
         });
+    DefineEquality(difference);
     DefineFirstDifferences<MediaAsset, MediaResource, Stream, Essence, Location, Track, TrackLayout, TrackLayoutItem,
                            Annotation, TimeBoundsArray, MetadataProfileDictionary, PelkOperatorMetadataProfile,
-                           AnglesPelkOperatorMetadataProfile, TimeCodeTable, MediaAssetGroup, MediaAssetGroupItem>(
+                           AnglesPelkOperatorMetadataProfile, MetadataProfile, TimeCodeTable, MediaAssetGroup, MediaAssetGroupItem>(
         module);
 }
 

@@ -109,7 +109,7 @@ void BindEssences(py::module_& module)
         });
     DefineEquality(jump);
 
-    py::class_<SortedVectorSharedPointer<TimeCodeJump>> jumps(module, "TimeCodeJumpVector");
+    py::class_<SortedVectorSharedPointer<TimeCodeJump>, ContainerHolder<SortedVectorSharedPointer<TimeCodeJump>>> jumps(module, "TimeCodeJumpVector");
     DefineSortedVector<SortedVectorSharedPointer<TimeCodeJump>>(jumps, "TimeCodeJumpVector");
 
     py::class_<TimeCodeTable, std::shared_ptr<TimeCodeTable>> table(
@@ -129,9 +129,9 @@ void BindEssences(py::module_& module)
         });
     DefineEquality(table);
 
-    py::class_<SortedVectorSharedPointer<TrackChannel>> channels(module, "TrackChannelVector");
+    py::class_<SortedVectorSharedPointer<TrackChannel>, ContainerHolder<SortedVectorSharedPointer<TrackChannel>>> channels(module, "TrackChannelVector");
     DefineSortedVector<SortedVectorSharedPointer<TrackChannel>>(channels, "TrackChannelVector");
-    py::class_<SortedVectorSharedPointer<TimeCodeTable>> tables(module, "TimeCodeTableVector");
+    py::class_<SortedVectorSharedPointer<TimeCodeTable>, ContainerHolder<SortedVectorSharedPointer<TimeCodeTable>>> tables(module, "TimeCodeTableVector");
     DefineSortedVector<SortedVectorSharedPointer<TimeCodeTable>>(tables, "TimeCodeTableVector");
 
     py::class_<Essence> essence(

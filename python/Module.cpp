@@ -79,4 +79,5 @@ PYBIND11_MODULE(orvik_media_assets, module)
     BindMediaAsset(module);
     BindOperatorMetadata(module);
     BindGroups(module);
+    BindFirstDifference(module);
 }

@@ -11,7 +11,7 @@ using namespace MA;
 
 void BindStreams(py::module_& module)
 {
-    py::class_<TimeBoundsArray> timeBounds(
+    py::class_<TimeBoundsArray, ContainerHolder<TimeBoundsArray>> timeBounds(
         module, "TimeBoundsArray",
         "The stretches of the media time line that an asset, resource or stream covers, sorted by in and then out "
         "time point, with overall in and out boundaries (unset at first).");
@@ -88,7 +88,7 @@ void BindStreams(py::module_& module)
     py::class_<MediaResourceReference> resourceReference(module, "MediaResourceReference");
     DefineSharedReference<MediaResource>(resourceReference, "MediaResourceReference");
 
-    py::class_<MediaResourceReferenceVector> resources(module, "MediaResourceReferenceVector",
+    py::class_<MediaResourceReferenceVector, ContainerHolder<MediaResourceReferenceVector>> resources(module, "MediaResourceReferenceVector",
                                                        "A media asset's references to its resources, sorted and told "
                                                        "apart by id alone.");
     DefineSortedVector<MediaResourceReferenceVector>(resources, "MediaResourceReferenceVector");

@@ -50,9 +50,9 @@ void BindTracks(py::module_& module)
     DefineObjectId(track);
     DefineCopies(track, [](const Track& self) { return std::make_shared<Track>(self); });
 
-    py::class_<SortedVectorSharedPointer<Track>> tracks(module, "TrackVector");
+    py::class_<SortedVectorSharedPointer<Track>, ContainerHolder<SortedVectorSharedPointer<Track>>> tracks(module, "TrackVector");
     DefineSortedVector<SortedVectorSharedPointer<Track>>(tracks, "TrackVector");
-    py::class_<SortedVectorWeakPointer<Track>> layoutTracks(
+    py::class_<SortedVectorWeakPointer<Track>, ContainerHolder<SortedVectorWeakPointer<Track>>> layoutTracks(
         module, "TrackWeakVector",
         "Tracks shown by a layout item, held weakly: an element reads as None once its track is gone, and comparing "
         "or inserting then raises RuntimeError.");
@@ -74,7 +74,7 @@ void BindTracks(py::module_& module)
     DefineObjectId(item);
     DefineCopies(item, [](const TrackLayoutItem& self) { return TrackLayoutItem(self); });
 
-    py::class_<SortedVector<TrackLayoutItem>> items(module, "TrackLayoutItemVector");
+    py::class_<SortedVector<TrackLayoutItem>, ContainerHolder<SortedVector<TrackLayoutItem>>> items(module, "TrackLayoutItemVector");
     DefineSortedVector<SortedVector<TrackLayoutItem>>(items, "TrackLayoutItemVector");
 
     py::class_<TrackLayout, std::shared_ptr<TrackLayout>> layout(
@@ -93,7 +93,7 @@ void BindTracks(py::module_& module)
     DefineObjectId(layout);
     DefineCopies(layout, [](const TrackLayout& self) { return std::make_shared<TrackLayout>(self); });
 
-    py::class_<SortedVectorSharedPointer<TrackLayout>> layouts(module, "TrackLayoutVector");
+    py::class_<SortedVectorSharedPointer<TrackLayout>, ContainerHolder<SortedVectorSharedPointer<TrackLayout>>> layouts(module, "TrackLayoutVector");
     DefineSortedVector<SortedVectorSharedPointer<TrackLayout>>(layouts, "TrackLayoutVector");
 }
 

@@ -64,8 +64,17 @@ def main():
         print(f"A second track-video is refused: {error}")
 
     handed_over = asset.clone()
-    print(f"The clone {'equals' if handed_over == asset else 'differs from'} the source; "
-          f"its objectId is {handed_over.object_id}")
+    difference = orvik.first_difference(handed_over, asset)
+    if difference:
+        print(f"The clone differs from the source at {difference.path}")
+    else:
+        print(f"The clone equals the source; its objectId is {handed_over.object_id}")
+
+    edited = handed_over.clone()
+    edited.tracks[0].name = "Replay"
+    difference = orvik.first_difference(handed_over, edited)
+    if difference:
+        print(f"Renamed, it differs at {difference.path}: {difference.left} against {difference.right}")
 
     stream = handed_over.media_resources[0].value.streams[0].value
     video = stream.essences[0]

@@ -37,6 +37,18 @@ def test_clone_keeps_only_the_ids_of_the_lineage(asset):
     assert (clone.ancestor.id, bool(clone.ancestor)) == ("ancestor-asset", True)
 
 
+def test_first_difference_names_the_field_and_both_values(asset):
+    clone = asset.clone()
+    assert orvik.first_difference(asset, clone) is None
+    clone.tracks[0].name = "Replay"
+    clone.media_resources[0].value.streams[0].value.essences[0].width = 1280
+    assert orvik.first_difference(asset, clone) == orvik.Difference("tracks[0].name", '"Program"', '"Replay"')
+    difference = orvik.first_difference(asset.media_resources[0].value.streams[0].value,
+                                        clone.media_resources[0].value.streams[0].value)
+    assert (difference.path, difference.left, difference.right) == (
+        "essences[0].(VideoEssence).width", "1920", "1280")
+
+
 def test_plain_copy_shares_children_and_keeps_object_id(asset):
     asset.object_id = 7
     shallow = copy.copy(asset)
