@@ -8,7 +8,7 @@
 
 using namespace Orvik::DataModel::MediaAssets;
 
-TEST(AnnotationEquality, IgnoresObjectIdAndTwoNullPointersAreUnequal)
+TEST(AnnotationEquality, ComparesThePointeesButNotTheirObjectIds)
 {
     auto left = std::make_shared<Annotation>(AnnotationType::CuePoint, "goal");
     auto right = std::make_shared<Annotation>(AnnotationType::CuePoint, "goal");
@@ -17,11 +17,16 @@ TEST(AnnotationEquality, IgnoresObjectIdAndTwoNullPointersAreUnequal)
     EXPECT_TRUE(equal(left, right));
     right->TimeBounds(TimeBounds(TimeBoundary(TimePoint(1), true), TimeBoundary::Empty()));
     EXPECT_FALSE(equal(left, right));
-    EXPECT_FALSE(equal(nullptr, nullptr));
-    EXPECT_FALSE(equal(left, nullptr));
 }
 
-TEST(AnnotationClone, OwnsEqualCopiesOfTheProfiles)
+TEST(AnnotationEquality, NullPointersAreNeverEqual)
+{
+    const Orvik::DataModel::MediaAssets::equal_to equal;
+    EXPECT_FALSE(equal(nullptr, nullptr));
+    EXPECT_FALSE(equal(std::make_shared<Annotation>(AnnotationType::CuePoint), nullptr));
+}
+
+TEST(AnnotationClone, OwnsEqualCopiesOfTheProfilesWithObjectIdUnset)
 {
     Annotation source(AnnotationType::CuePoint, "goal");
     source.ObjectId(3);
@@ -30,7 +35,6 @@ TEST(AnnotationClone, OwnsEqualCopiesOfTheProfiles)
     EXPECT_EQ(clone, source);
     EXPECT_EQ(clone.ObjectId(), -1);
     EXPECT_NE(clone.Metadata().Values()[0], source.Metadata().Values()[0]);
-
     const Annotation copy = source;
     EXPECT_EQ(copy.Metadata().Values()[0], source.Metadata().Values()[0]) << "a plain copy shares profiles";
 }

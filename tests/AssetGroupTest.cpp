@@ -1,7 +1,6 @@
 #include <Orvik/DataModel/MediaAssets/AnglesMediaAssetGroup.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <stdexcept>
@@ -22,13 +21,10 @@ MediaAssetReference AssetReference(const char* id)
 
 }  // namespace
 
-TEST(AnglesMediaAssetGroup, StartsEmptyWithItsType)
+TEST(AnglesMediaAssetGroup, WithoutTheProfileThrowsNamingIt)
 {
     const AnglesMediaAssetGroup group;
     EXPECT_EQ(group.Type(), "AnglesMediaAssetGroup");
-    EXPECT_TRUE(group.Id().IsEmpty());
-    EXPECT_EQ(group.ObjectId(), -1);
-    EXPECT_TRUE(group.Items().empty());
     EXPECT_FALSE(group.HasPelkOperatorMetadata());
     EXPECT_THAT([&] { group.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoOperatorMetadata)));
 }
@@ -46,12 +42,16 @@ TEST(AnglesMediaAssetGroup, FindsOnlyTheAnglesProfile)
     EXPECT_EQ(group.PelkOperatorMetadata().PelkId().ToString(), "123/10");
 }
 
-TEST(AnglesMediaAssetGroupItem, EqualityNeedsNameAndIsOneDirectionalWithPlainItems)
+TEST(AnglesMediaAssetGroupItemEquality, NeedsTheNameAndTheAssetIdOnly)
 {
     const AnglesMediaAssetGroupItem wide("wide", AssetReference("a"));
     EXPECT_NE(wide, AnglesMediaAssetGroupItem("tight", AssetReference("a")));
     EXPECT_EQ(wide, AnglesMediaAssetGroupItem("wide", MediaAssetReference(MediaAssetId("a"))));
+}
 
+TEST(AnglesMediaAssetGroupItemEquality, WithAPlainItemHoldsOnlyFromThePlainSide)
+{
+    const AnglesMediaAssetGroupItem wide("wide", AssetReference("a"));
     const MediaAssetGroupItem plain(AssetReference("a"));
     const MediaAssetGroupItem& asBase = wide;
     EXPECT_TRUE(plain == asBase);
@@ -72,6 +72,15 @@ TEST(MediaAssetGroupLookup, FindsItemsByAssetIdOrNamesTheMissingOne)
     EXPECT_THAT([&] { group.Item(MediaAssetId("b")); },
                 ThrowsMessage<std::runtime_error>(
                     StrEq("Orvik::DataModel::MediaAssets::MediaAssetGroup::Item: no item for asset b")));
+}
+
+TEST(AnglesMediaAssetGroupLookup, PlainItemThrowsNamingItsAsset)
+{
+    AnglesMediaAssetGroup group(MediaAssetGroupId("g"));
+    group.Items().push_back(std::make_shared<MediaAssetGroupItem>(AssetReference("c")));
+    EXPECT_THAT([&] { group.Item(MediaAssetId("c")); },
+                ThrowsMessage<std::runtime_error>(StrEq(
+                    "Orvik::DataModel::MediaAssets::AnglesMediaAssetGroup::Item: not an angles item for asset c")));
 }
 
 TEST(MediaAssetGroupEquality, ComparesItemsInOrderThroughTheirOwnEquality)

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -55,13 +56,27 @@ TEST(FileLocationEquality, ComparesEveryField)
     EXPECT_NE(left, *right);
 }
 
-TEST(LocationClone, IsEqualDistinctAndIndependent)
+TEST(LocationClone, IsAnEqualLocationOfTheSameKind)
+{
+    FileLocation file;
+    file.Name("clip.mxf");
+    DaxContentTrackLocation track;
+    ASSERT_TRUE(track.InitFromUri("storage://S1/P2/T3"));
+    DaxProtectLocation protectedItem;
+    protectedItem.Uri(URI("protected"));
+    const ZanLocation clip(ZanServerId(120), "A7F3");
+    for (const Location* source : std::initializer_list<const Location*>{&file, &track, &protectedItem, &clip}) {
+        const auto clone = source->Clone();
+        EXPECT_NE(clone.get(), source);
+        EXPECT_EQ(clone->GetType(), source->GetType());
+        EXPECT_EQ(*clone, *source);
+    }
+}
+
+TEST(LocationClone, IsIndependentOfItsSource)
 {
     const ZanLocation source(ZanServerId(120), "A7F3");
     const auto clone = source.Clone();
-    EXPECT_NE(clone.get(), &source);
-    EXPECT_EQ(*clone, source);
-    EXPECT_EQ(clone->GetType(), Location::ZanLocation);
     static_cast<ZanLocation&>(*clone).SequenceId("B000");
     EXPECT_EQ(source.SequenceId(), "A7F3");
     EXPECT_NE(*clone, source);
@@ -107,14 +122,4 @@ TEST(DaxProtectLocationEquality, ServerCountsBesideTheUri)
     EXPECT_EQ(left, right);
     right.ServerId(Identifier("S2"));
     EXPECT_NE(left, right);
-}
-
-TEST(LocationType, ConvertsWithFileLocationAsFallback)
-{
-    bool failed = false;
-    EXPECT_EQ(Location::ToType("ZanLocation", failed), Location::ZanLocation);
-    EXPECT_FALSE(failed);
-    EXPECT_EQ(Location::ToType("zanlocation", failed), Location::FileLocation);
-    EXPECT_TRUE(failed);
-    EXPECT_EQ(Location::ToString(Location::DaxProtectLocation), "DaxProtectLocation");
 }

@@ -51,6 +51,17 @@ TEST(PelkOperatorZan3Keywords, KeepsFiveSlotsOfTwelveCharacters)
     EXPECT_FALSE(profile.AnyKeyword());
 }
 
+TEST(PelkOperatorKeywordsText, SplitsAtTheSeparatorWhichEmptyKeepsTheTextWhole)
+{
+    PelkOperatorMetadataProfile profile;
+    profile.Keywords("a;;b", ";");
+    EXPECT_THAT(profile.Keywords(), ElementsAre("a", "", "b"));
+    profile.Keywords("a;b", "");
+    EXPECT_THAT(profile.Keywords(), ElementsAre("a;b"));
+    profile.Keywords("", ";");
+    EXPECT_TRUE(profile.Keywords().empty());
+}
+
 TEST(PelkOperatorEquality, IgnoresProtectionFlagsAndObjectIdButNotKeywordOrder)
 {
     PelkOperatorMetadataProfile left(PelkId(ZanServerId(120), 1, 2, 3, 'B'));
@@ -111,4 +122,18 @@ TEST(PelkOperatorClone, IsEqualAndSharesNothing)
     EXPECT_EQ(static_cast<const PelkOperatorMetadataProfile&>(*clone).ObjectId(), 8);
     source.Keyword(0, "miss");
     EXPECT_FALSE(clone->Equals(source));
+}
+
+TEST(AnglesPelkOperatorEquality, ComparesServerPageBankAndClip)
+{
+    const AnglesPelkOperatorMetadataProfile profile(PelkId(ZanServerId(10), 1, 2, 3));
+    EXPECT_TRUE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(10), 1, 2, 3))));
+    EXPECT_FALSE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(20), 1, 2, 3))));
+    EXPECT_FALSE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(10), 1, 2, 4))));
+}
+
+TEST(AnglesPelkOperatorClone, IsEqualToItsSource)
+{
+    const AnglesPelkOperatorMetadataProfile source(PelkId(ZanServerId(10), 1, 2, 3));
+    EXPECT_TRUE(source.Clone()->Equals(source));
 }

@@ -3,14 +3,15 @@
 #include <Orvik/BusinessEntityModel/BaseTypes/SortedVectorWeakPointer.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 using namespace Orvik::BusinessEntityModel::BaseTypes;
+using ::testing::ElementsAre;
 using ::testing::StrEq;
 using ::testing::ThrowsMessage;
 
@@ -24,17 +25,17 @@ struct Keyed {
     static inline int comparisons = 0;
     int key;
     std::string label;
-    bool operator<(const Keyed& other) const
-    {
-        ++comparisons;
-        return key < other.key;
-    }
-    bool operator==(const Keyed& other) const
-    {
-        ++comparisons;
-        return key == other.key && label == other.label;
-    }
+    bool operator<(const Keyed& other) const { return ++comparisons, key < other.key; }
+    bool operator==(const Keyed& other) const { return ++comparisons, key == other.key && label == other.label; }
 };
+
+SortedVector<Keyed> Inserted(std::initializer_list<Keyed> elements)
+{
+    SortedVector<Keyed> vector;
+    for (const auto& element : elements)
+        vector.Insert(element);
+    return vector;
+}
 
 std::vector<std::string> Labels(const SortedVector<Keyed>& vector)
 {
@@ -48,11 +49,7 @@ std::vector<std::string> Labels(const SortedVector<Keyed>& vector)
 
 TEST(SortedVectorInsert, KeepsLessOrderWhateverTheInsertionOrder)
 {
-    SortedVector<Keyed> vector;
-    vector.Insert(Keyed{2, "b"});
-    vector.Insert(Keyed{1, "a"});
-    vector.Insert(Keyed{3, "c"});
-    EXPECT_THAT(Labels(vector), ::testing::ElementsAre("a", "b", "c"));
+    EXPECT_THAT(Labels(Inserted({{2, "b"}, {1, "a"}, {3, "c"}})), ElementsAre("a", "b", "c"));
 }
 
 TEST(SortedVectorInsert, IntoEmptyVectorComparesNothing)
@@ -65,63 +62,54 @@ TEST(SortedVectorInsert, IntoEmptyVectorComparesNothing)
 
 TEST(SortedVectorInsert, RefusesEqualElementAtLowerBoundAndStaysUnchanged)
 {
-    SortedVector<Keyed> vector;
-    vector.Insert(Keyed{1, "a"});
-    vector.Insert(Keyed{2, "b"});
+    auto vector = Inserted({{1, "a"}, {2, "b"}});
     EXPECT_THAT([&] { vector.Insert(Keyed{2, "b"}); }, ThrowsMessage<std::runtime_error>(StrEq(kDuplicate)));
-    EXPECT_THAT(Labels(vector), ::testing::ElementsAre("a", "b"));
+    EXPECT_THAT(Labels(vector), ElementsAre("a", "b"));
 }
 
 TEST(SortedVectorInsert, SameKeyButNotEqualGoesInFrontAndOnlyLowerBoundIsTested)
 {
-    SortedVector<Keyed> vector;
-    vector.Insert(Keyed{3, "track a"});
-    vector.Insert(Keyed{3, "track b"});
-    EXPECT_THAT(Labels(vector), ::testing::ElementsAre("track b", "track a"));
+    auto vector = Inserted({{3, "track a"}, {3, "track b"}});
+    EXPECT_THAT(Labels(vector), ElementsAre("track b", "track a"));
     // "track a" no longer stands at the lower bound of key 3, so it is taken a second time.
     vector.Insert(Keyed{3, "track a"});
-    EXPECT_THAT(Labels(vector), ::testing::ElementsAre("track a", "track b", "track a"));
+    EXPECT_THAT(Labels(vector), ElementsAre("track a", "track b", "track a"));
 }
 
 TEST(SortedVectorEquality, ComparesElementsPairwiseAfterSizes)
 {
-    SortedVector<Keyed> left;
-    SortedVector<Keyed> right;
-    EXPECT_TRUE(left == right);
-    left.Insert(Keyed{1, "a"});
+    EXPECT_TRUE(Inserted({}) == Inserted({}));
+    const auto left = Inserted({{1, "a"}});
     Keyed::comparisons = 0;
-    EXPECT_FALSE(left == right);
+    EXPECT_FALSE(left == Inserted({}));
     EXPECT_EQ(Keyed::comparisons, 0) << "different sizes compare no element";
-    right.Insert(Keyed{1, "other"});
-    EXPECT_TRUE(left != right);
-    right = left;
-    EXPECT_TRUE(left == right);
+    EXPECT_TRUE(left != Inserted({{1, "other"}}));
+    EXPECT_TRUE(left == Inserted({{1, "a"}}));
 }
 
-TEST(SortedVectorLookup, FindsEqualElementAmongSameKeysAndChecksIndexes)
+TEST(SortedVectorLookup, FindsTheEqualElementAmongSameKeys)
 {
-    SortedVector<Keyed> vector;
-    vector.Insert(Keyed{3, "x"});
-    vector.Insert(Keyed{3, "y"});
+    const auto vector = Inserted({{3, "x"}, {3, "y"}});
     const auto found = vector.ConstFind(Keyed{3, "x"});
     ASSERT_NE(found, vector.cend());
     EXPECT_EQ(found->label, "x");
     EXPECT_EQ(vector.ConstFind(Keyed{3, "z"}), vector.cend());
-    EXPECT_THAT([&] { vector.At(2); },
+}
+
+TEST(SortedVectorLookup, OutOfRangeIndexThrowsNamingIndexAndSize)
+{
+    EXPECT_THAT([] { Inserted({{3, "x"}, {3, "y"}}).At(2); },
                 ThrowsMessage<std::out_of_range>(
                     StrEq("Orvik::DataModel::MediaAssets::SortedVector::CheckIndex: index 2 out of range for size 2")));
 }
 
 TEST(SortedVectorReplace, MovesElementToItsNewPlaceOrLeavesVectorUnchanged)
 {
-    SortedVector<Keyed> vector;
-    vector.Insert(Keyed{1, "a"});
-    vector.Insert(Keyed{2, "b"});
+    auto vector = Inserted({{1, "a"}, {2, "b"}});
     vector.Replace(Keyed{1, "a"}, Keyed{3, "c"});
-    EXPECT_THAT(Labels(vector), ::testing::ElementsAre("b", "c"));
-    EXPECT_THAT([&] { vector.Replace(Keyed{2, "b"}, Keyed{3, "c"}); },
-                ThrowsMessage<std::runtime_error>(StrEq(kDuplicate)));
-    EXPECT_THAT(Labels(vector), ::testing::ElementsAre("b", "c"));
+    EXPECT_THAT(Labels(vector), ElementsAre("b", "c"));
+    EXPECT_THAT([&] { vector.Replace(Keyed{2, "b"}, Keyed{3, "c"}); }, ThrowsMessage<std::runtime_error>(StrEq(kDuplicate)));
+    EXPECT_THAT(Labels(vector), ElementsAre("b", "c"));
     EXPECT_THROW(vector.Replace(Keyed{9, "none"}, Keyed{4, "d"}), std::runtime_error);
 }
 
@@ -133,14 +121,18 @@ TEST(SortedVectorSharedPointer, OrdersAndComparesPointeesNotAddresses)
     EXPECT_EQ(left.Front()->label, "a");
     EXPECT_THAT([&] { left.Insert(std::make_shared<Keyed>(Keyed{1, "a"})); },
                 ThrowsMessage<std::runtime_error>(StrEq(kDuplicate)));
-
     SortedVectorSharedPointer<Keyed> right;
     right.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
     right.Insert(std::make_shared<Keyed>(Keyed{2, "b"}));
     EXPECT_TRUE(left == right);
+}
 
-    const SortedVectorSharedPointer<Keyed> copy = left;
-    EXPECT_EQ(copy.Front().get(), left.Front().get()) << "a copy shares the pointees";
+TEST(SortedVectorSharedPointer, CopySharesThePointees)
+{
+    SortedVectorSharedPointer<Keyed> vector;
+    vector.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
+    const SortedVectorSharedPointer<Keyed> copy = vector;
+    EXPECT_EQ(copy.Front().get(), vector.Front().get());
 }
 
 TEST(SortedVectorWeakPointer, ExpiredPointeeThrowsOnInsertAndCompare)
@@ -152,13 +144,15 @@ TEST(SortedVectorWeakPointer, ExpiredPointeeThrowsOnInsertAndCompare)
     vector.Insert(released);
     const SortedVectorWeakPointer<Keyed> copy = vector;
     EXPECT_TRUE(copy == vector);
-
     released.reset();
     EXPECT_THAT([&] { (void)(copy == vector); }, ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
     EXPECT_THAT([&] { vector.Insert(std::make_shared<Keyed>(Keyed{3, "c"})); },
                 ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
+}
 
+TEST(SortedVectorWeakPointer, EmptyVectorTakesAnExpiredPointer)
+{
     SortedVectorWeakPointer<Keyed> empty;
     empty.Insert(std::weak_ptr<Keyed>());
-    EXPECT_EQ(empty.Size(), 1u) << "an empty vector compares nothing, so it takes an expired pointer";
+    EXPECT_EQ(empty.Size(), 1u) << "an empty vector compares nothing";
 }

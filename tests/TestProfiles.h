@@ -1,12 +1,13 @@
 #pragma once
 
-// Metadata profiles for tests: TestProfile carries one number; OtherProfile shares the operator
-// profile's name but is of another class.
+// Metadata profiles for tests: TestProfile carries one number; OtherProfile is of another class
+// and is filed under the name it is given, by default the operator profile's.
 
 #include <Orvik/BusinessEntityModel/BaseTypes/MetadataProfile.h>
 
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -29,9 +30,11 @@ public:
 
 class OtherProfile : public MetadataProfile {
 public:
-    ProfileName FullyQualifiedName() const override { return ProfileName("orvik.pelkoperator"); }
+    explicit OtherProfile(std::string name = "orvik.pelkoperator") : name(std::move(name)) {}
+    ProfileName FullyQualifiedName() const override { return ProfileName(name); }
     bool Equals(const MetadataProfile& other) const override { return dynamic_cast<const OtherProfile*>(&other) != nullptr; }
     std::shared_ptr<MetadataProfile> Clone() const override { return std::make_shared<OtherProfile>(*this); }
+    std::string name;
 };
 
 }  // namespace

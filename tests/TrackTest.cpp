@@ -2,7 +2,6 @@
 #include <Orvik/DataModel/MediaAssets/TrackLayout.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <stdexcept>
@@ -25,13 +24,16 @@ std::shared_ptr<TrackChannelToRemove> Channel(const std::shared_ptr<Stream>& str
 
 }  // namespace
 
-TEST(TrackEquality, IdAndNameOnlyAndSameIdWithOtherNameSortsFirst)
+TEST(TrackEquality, ComparesIdAndNameButNotChannels)
 {
     Track left(TrackId("t1"), "Program");
-    Track right(TrackId("t1"), "Program");
     left.Channels().push_back(Channel(std::make_shared<Stream>(StreamId("s")), 1));
-    EXPECT_EQ(left, right) << "channels are not compared";
+    EXPECT_EQ(left, Track(TrackId("t1"), "Program"));
+    EXPECT_NE(left, Track(TrackId("t1"), "Clean"));
+}
 
+TEST(TrackOrder, IsByIdSoATrackOfTheSameIdWithAnotherNameGoesInFront)
+{
     SortedVectorSharedPointer<Track> tracks;
     tracks.Insert(std::make_shared<Track>(TrackId("t1"), "Program"));
     tracks.Insert(std::make_shared<Track>(TrackId("t1"), "Clean"));
@@ -62,7 +64,7 @@ TEST(TrackClone, GivesEveryChannelItsOwnStreamCopy)
     EXPECT_EQ(copy.Channels()[0], source.Channels()[0]) << "a plain copy shares the channels";
 }
 
-TEST(TrackLayoutCopy, RefersToTheSameTracks)
+TEST(TrackLayoutCopy, CopiesAndClonesReferToTheSameTracks)
 {
     auto track = std::make_shared<Track>(TrackId("t1"), "Program");
     TrackLayoutItem item(Identifier("i1"));
@@ -78,6 +80,10 @@ TEST(TrackLayoutCopy, RefersToTheSameTracks)
     const TrackLayout clone = layout.Clone();
     EXPECT_EQ(clone.ObjectId(), -1);
     EXPECT_EQ(clone.TrackLayoutItems().Front().Tracks().Front().lock(), track);
+    item.ObjectId(4);
+    const TrackLayoutItem itemClone = item.Clone();
+    EXPECT_EQ(itemClone.ObjectId(), -1);
+    EXPECT_EQ(itemClone.Tracks().Front().lock(), track);
 }
 
 TEST(TrackLayoutItemEquality, ThrowsOnceATrackIsGone)

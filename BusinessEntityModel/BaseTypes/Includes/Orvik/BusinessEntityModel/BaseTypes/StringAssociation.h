@@ -35,16 +35,12 @@ public:
                                      std::function<bool(const std::string*, const std::string*)>>;
 
     StringAssociation(std::initializer_list<std::pair<const T, const std::string>> items)
-        : typeToString(items.begin(), items.end()), fallbackValue(), hasFallbackValue(false)
+        : StringAssociation(items, T(), false)
     {
-        for (const auto& entry : typeToString)
-            stringToType.emplace(&entry.second, entry.first);
     }
     StringAssociation(std::initializer_list<std::pair<const T, const std::string>> items, const T& fallback)
-        : typeToString(items.begin(), items.end()), fallbackValue(fallback), hasFallbackValue(true)
+        : StringAssociation(items, fallback, true)
     {
-        for (const auto& entry : typeToString)
-            stringToType.emplace(&entry.second, entry.first);
     }
     StringAssociation(const StringAssociation&) = delete;
     StringAssociation& operator=(const StringAssociation&) = delete;
@@ -98,6 +94,14 @@ public:
     }
 
 private:
+    StringAssociation(std::initializer_list<std::pair<const T, const std::string>> items, const T& fallback,
+                      bool hasFallback)
+        : typeToString(items.begin(), items.end()), fallbackValue(fallback), hasFallbackValue(hasFallback)
+    {
+        for (const auto& entry : typeToString)
+            stringToType.emplace(&entry.second, entry.first);
+    }
+
     ItemToStringMap typeToString;
     StringToItemMap stringToType{[](const std::string* a, const std::string* b) { return *a < *b; }};
     T fallbackValue;

@@ -35,7 +35,7 @@ public:
     virtual bool operator==(const Location& other) const;
     bool operator!=(const Location& other) const { return !(*this == other); }
     virtual std::unique_ptr<Location> Clone() const = 0;
-    /// The location named as text.
+    /// The location as text, in its kind's own form; equality compares it after the kind.
     virtual URI Uri() const = 0;
     virtual Location::Type GetType() const { return type; }
 

@@ -1,5 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/AnglesMediaAssetGroup.h>
 
+#include "ProfileOfClassOrThrow.h"
+
 #include <stdexcept>
 
 namespace Orvik::DataModel::MediaAssets {
@@ -26,18 +28,12 @@ bool AnglesMediaAssetGroup::HasPelkOperatorMetadata() const
 
 AnglesPelkOperatorMetadataProfile& AnglesMediaAssetGroup::PelkOperatorMetadata()
 {
-    const auto profile = Metadata().Get<AnglesPelkOperatorMetadataProfile>();
-    if (!profile)
-        throw std::runtime_error(kNoOperatorMetadata);
-    return *profile;
+    return detail::ProfileOfClassOrThrow<AnglesPelkOperatorMetadataProfile>(Metadata(), kNoOperatorMetadata);
 }
 
 const AnglesPelkOperatorMetadataProfile& AnglesMediaAssetGroup::PelkOperatorMetadata() const
 {
-    const auto profile = Metadata().Get<AnglesPelkOperatorMetadataProfile>();
-    if (!profile)
-        throw std::runtime_error(kNoOperatorMetadata);
-    return *profile;
+    return detail::ProfileOfClassOrThrow<AnglesPelkOperatorMetadataProfile>(Metadata(), kNoOperatorMetadata);
 }
 
 AnglesMediaAssetGroupItem& AnglesMediaAssetGroup::Item(const MediaAssetGroupId& assetId) const

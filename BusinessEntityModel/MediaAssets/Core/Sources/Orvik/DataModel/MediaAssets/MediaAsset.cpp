@@ -1,6 +1,8 @@
 #include <Orvik/DataModel/MediaAssets/MediaAsset.h>
 
+#include "CloneTargetOrKeepId.h"
 #include "EqualityVisitor.h"
+#include "ProfileOfClassOrThrow.h"
 
 #include <memory>
 #include <stdexcept>
@@ -26,18 +28,12 @@ bool MediaAsset::HasPelkOperatorMetadata() const
 
 PelkOperatorMetadataProfile& MediaAsset::PelkOperatorMetadata()
 {
-    const auto profile = metadata.Get<PelkOperatorMetadataProfile>();
-    if (!profile)
-        throw std::runtime_error(kNoOperatorMetadata);
-    return *profile;
+    return detail::ProfileOfClassOrThrow<PelkOperatorMetadataProfile>(metadata, kNoOperatorMetadata);
 }
 
 const PelkOperatorMetadataProfile& MediaAsset::PelkOperatorMetadata() const
 {
-    const auto profile = metadata.Get<PelkOperatorMetadataProfile>();
-    if (!profile)
-        throw std::runtime_error(kNoOperatorMetadata);
-    return *profile;
+    return detail::ProfileOfClassOrThrow<PelkOperatorMetadataProfile>(metadata, kNoOperatorMetadata);
 }
 
 MediaAssets::Duration MediaAsset::GetInOutDuration() const
@@ -63,12 +59,8 @@ MediaAsset MediaAsset::Clone() const
         copy.tracks.Insert(std::make_shared<Track>(track->Clone()));
     for (const auto& layout : trackLayouts)
         copy.trackLayouts.Insert(std::make_shared<TrackLayout>(*layout));
-    for (const auto& resource : mediaResources) {
-        if (resource.Pointer())
-            copy.mediaResources.Insert(MediaResourceReference(std::make_shared<MediaResource>(resource->Clone())));
-        else
-            copy.mediaResources.Insert(MediaResourceReference(resource.Id()));
-    }
+    for (const auto& resource : mediaResources)
+        copy.mediaResources.Insert(detail::CloneTargetOrKeepId(resource));
     copy.annotations.reserve(annotations.size());
     for (const auto& annotation : annotations) {
         if (!annotation)

@@ -1,5 +1,6 @@
 #include <Orvik/DataModel/MediaAssets/MediaResource.h>
 
+#include "CloneTargetOrKeepId.h"
 #include "EqualityVisitor.h"
 
 #include <utility>
@@ -29,12 +30,8 @@ MediaResource MediaResource::Clone() const
     copy.modificationDate = modificationDate;
     copy.metadata->DeepCopy(*metadata);
     copy.streams.reserve(streams.size());
-    for (const auto& stream : streams) {
-        if (stream.Pointer())
-            copy.streams.emplace_back(std::make_shared<Stream>(stream->Clone()));
-        else
-            copy.streams.emplace_back(stream.Id());
-    }
+    for (const auto& stream : streams)
+        copy.streams.push_back(detail::CloneTargetOrKeepId(stream));
     return copy;
 }
 

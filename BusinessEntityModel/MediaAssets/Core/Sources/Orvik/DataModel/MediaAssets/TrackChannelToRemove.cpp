@@ -1,6 +1,6 @@
 #include <Orvik/DataModel/MediaAssets/TrackChannelToRemove.h>
 
-#include <memory>
+#include "CloneTargetOrKeepId.h"
 
 namespace Orvik::DataModel::MediaAssets {
 
@@ -9,10 +9,7 @@ TrackChannelToRemove TrackChannelToRemove::Clone() const
     TrackChannelToRemove copy;
     copy.essenceNr = essenceNr;
     copy.channelNr = channelNr;
-    if (stream.Pointer())
-        copy.stream.Pointer(std::make_shared<MediaAssets::Stream>(stream->Clone()));
-    else
-        copy.stream.Id(stream.Id());
+    copy.stream = detail::CloneTargetOrKeepId(stream);
     return copy;
 }
 

@@ -41,7 +41,7 @@ public:
     static constexpr int8_t MinRow = 0;
     static constexpr int8_t MaxRow = 9;
 
-    /// Empty().
+    /// The empty identifier: equal to Empty(), not valid, printed "////0".
     constexpr PelkId() = default;
     /// Explicit: a bare number is not a clip code (`id == 456` would compile).
     explicit PelkId(int position) { Position(position); }
@@ -59,7 +59,8 @@ public:
           row(static_cast<uint8_t>(row)), camera(camera)
     {
     }
-    /// FromUri(text). Explicit: it may throw, which should not happen behind a conversion.
+    /// Parsed strictly, with FromUri's exceptions; use TryParse() for text that may be malformed.
+    /// Explicit: it may throw, which should not happen behind a conversion.
     explicit PelkId(const std::string& text) : PelkId(FromUri(text)) {}
 
     static constexpr const PelkId& Empty();

@@ -1,0 +1,106 @@
+#include <Orvik/BusinessEntityModel/BaseTypes/Array.h>
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <stdexcept>
+
+using Orvik::BusinessEntityModel::BaseTypes::Array;
+using ::testing::StrEq;
+using ::testing::ThrowsMessage;
+
+namespace {
+
+// A small polymorphic family; counts comparisons and can refuse to clone.
+struct Shape {
+    static inline int comparisons = 0;
+    virtual ~Shape() = default;
+    virtual std::unique_ptr<Shape> Clone() const = 0;
+    virtual bool operator==(const Shape& other) const
+    {
+        ++comparisons;
+        return size == other.size;
+    }
+    int size = 0;
+    bool refuseClone = false;
+};
+
+struct Square : Shape {
+    explicit Square(int value) { size = value; }
+    std::unique_ptr<Shape> Clone() const override
+    {
+        if (refuseClone)
+            throw std::runtime_error("clone refused");
+        return std::make_unique<Square>(*this);
+    }
+};
+
+}  // namespace
+
+TEST(ArrayEquality, ChecksSizesFirstThenElementsInPosition)
+{
+    Array<Shape> left;
+    Array<Shape> right;
+    left.Add(Square(1));
+    Shape::comparisons = 0;
+    EXPECT_FALSE(left == right);
+    EXPECT_EQ(Shape::comparisons, 0);
+    right.Add(Square(1));
+    EXPECT_TRUE(left == right);
+    left.Add(Square(2));
+    right.Insert(0, Square(2));
+    EXPECT_TRUE(left != right) << "order matters";
+}
+
+TEST(ArrayCopy, DeepCopiesEveryElement)
+{
+    Array<Shape> source;
+    source.Add(Square(1));
+    Array<Shape> copy;
+    copy.Copy(source);
+    ASSERT_EQ(copy.Size(), 1);
+    EXPECT_NE(&copy[0], &source[0]);
+    EXPECT_TRUE(copy == source);
+}
+
+TEST(ArrayCopy, FailedCloneLeavesTheArrayAsItWas)
+{
+    Array<Shape> source;
+    source.Add(Square(1));
+    source.Add(Square(2));
+    source[1].refuseClone = true;
+    Array<Shape> copy;
+    copy.Add(Square(7));
+    EXPECT_THROW(copy.Copy(source), std::runtime_error);
+    ASSERT_EQ(copy.Size(), 1);
+    EXPECT_EQ(copy[0].size, 7);
+}
+
+TEST(ArrayIndexes, OutOfRangeThrowsNamingOperationIndexAndSize)
+{
+    Array<Shape> array;
+    EXPECT_EQ(array.Add(Square(1)), 0);
+    EXPECT_EQ(array.Insert(1, Square(2)), 1);
+    EXPECT_THAT([&] { array.Erase(2); },
+                ThrowsMessage<std::out_of_range>(
+                    StrEq("Orvik::BusinessEntityModel::BaseTypes::Array::Erase: index 2 out of range for size 2")));
+    EXPECT_THAT([&] { array.Insert(3, Square(3)); },
+                ThrowsMessage<std::out_of_range>(
+                    StrEq("Orvik::BusinessEntityModel::BaseTypes::Array::Insert: index 3 out of range for size 2")));
+    EXPECT_THROW(array.Replace(2, std::make_unique<Square>(5)), std::out_of_range);
+    EXPECT_EQ(array.Size(), 2);
+}
+
+TEST(ArrayAdopt, TakesTheElementsAndEmptiesTheOther)
+{
+    Array<Shape> array;
+    array.Add(Square(1));
+    Array<Shape> other;
+    other.Add(Square(2));
+    other.Adopt(array);
+    EXPECT_EQ(other.Size(), 2);
+    EXPECT_EQ(other[1].size, 1);
+    EXPECT_TRUE(array.Empty());
+    other.Adopt(other);
+    EXPECT_EQ(other.Size(), 2) << "adopting itself changes nothing";
+}
