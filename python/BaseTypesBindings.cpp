@@ -13,8 +13,7 @@ using MA::MetadataProfileDictionary;
 
 /// The profile filed under `name`, shared with the dictionary. KeyError with the library's text
 /// when there is none.
-std::shared_ptr<MetadataProfile> SharedProfile(const MetadataProfileDictionary& dictionary,
-                                               const FullyQualifiedName& name)
+std::shared_ptr<MetadataProfile> SharedProfile(const MetadataProfileDictionary& dictionary, const FullyQualifiedName& name)
 {
     const MetadataProfile* profile = nullptr;
     try {
@@ -53,8 +52,8 @@ void BindBaseTypes(py::module_& module)
         "the profiles; clone() copies them. Looking up a missing name raises KeyError.")
         .def(py::init<>())
         .def("__len__", &MetadataProfileDictionary::Size)
-        .def("__contains__", [](const MetadataProfileDictionary& self,
-                                const FullyQualifiedName& name) { return self.Contains(name); })
+        .def("__contains__",
+             [](const MetadataProfileDictionary& self, const FullyQualifiedName& name) { return self.Contains(name); })
         .def("__iter__", [](const MetadataProfileDictionary& self) { return py::iter(py::cast(self.Keys())); })
         .def("__getitem__", &SharedProfile)
         .def("__delitem__",

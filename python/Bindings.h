@@ -89,30 +89,28 @@ PYBIND11_MAKE_OPAQUE(Orvik::DataModel::MediaAssets::MediaAssetGroupItemArray)
 
 /// A read-write property over an accessor pair `Accessor()` / `Accessor(value)`. The getter
 /// returns a copy, so a value read from an object never changes behind the caller's back.
-#define ORVIK_PROPERTY(Class, name, Accessor)                                                            \
-    def_property(                                                                                        \
-        name, [](const Class& self) { return self.Accessor(); },                                         \
-        [](Class& self, const std::decay_t<decltype(std::declval<const Class&>().Accessor())>& value) { \
-            self.Accessor(value);                                                                        \
+#define ORVIK_PROPERTY(Class, name, Accessor)                                                                               \
+    def_property(                                                                                                           \
+        name, [](const Class& self) { return self.Accessor(); },                                                            \
+        [](Class& self, const std::decay_t<decltype(std::declval<const Class&>().Accessor())>& value) {                     \
+            self.Accessor(value);                                                                                           \
         })
 
 /// A read-only property over `Accessor()`, returning a copy.
-#define ORVIK_READONLY(Class, name, Accessor) \
-    def_property_readonly(name, [](const Class& self) { return self.Accessor(); })
+#define ORVIK_READONLY(Class, name, Accessor) def_property_readonly(name, [](const Class& self) { return self.Accessor(); })
 
 /// A property over a member that the object owns (a container, a dictionary): the getter returns
 /// the member itself, kept valid by keeping the object alive.
-#define ORVIK_MEMBER(Class, name, Accessor)                                                             \
-    def_property_readonly(                                                                              \
-        name, [](Class& self) -> decltype(auto) { return self.Accessor(); }, \
-        py::return_value_policy::reference_internal)
+#define ORVIK_MEMBER(Class, name, Accessor)                                                                                 \
+    def_property_readonly(                                                                                                  \
+        name, [](Class& self) -> decltype(auto) { return self.Accessor(); }, py::return_value_policy::reference_internal)
 
 /// A read-write property over a member that the object owns: the getter returns the member
 /// itself (kept valid by keeping the object alive), the setter assigns a copy of `value` to it.
-#define ORVIK_MEMBER_PROPERTY(Class, name, Accessor, Type)                                     \
-    def_property(name,                                                                         \
-                 py::cpp_function([](Class& self) -> Type& { return self.Accessor(); },        \
-                                  py::return_value_policy::reference_internal),                \
+#define ORVIK_MEMBER_PROPERTY(Class, name, Accessor, Type)                                                                  \
+    def_property(name,                                                                                                      \
+                 py::cpp_function([](Class& self) -> Type& { return self.Accessor(); },                                     \
+                                  py::return_value_policy::reference_internal),                                             \
                  [](Class& self, const Type& value) { self.Accessor() = value; })
 
 namespace Orvik::Python {
@@ -217,8 +215,7 @@ void DefineSortedVector(Class& cls, const char* name)
             },
             "Inserts each value in turn; stops at the first refusal, keeping the values inserted before it.")
         .def(
-            "replace",
-            [](Vector& self, const Value& old, const Value& value) { self.Replace(E::In(old), E::In(value)); },
+            "replace", [](Vector& self, const Value& old, const Value& value) { self.Replace(E::In(old), E::In(value)); },
             py::arg("old").none(false), py::arg("value").none(false),
             "Takes out the element equal to `old` and inserts `value`; RuntimeError and no change on failure.")
         .def("clear", [](Vector& self) { self.Clear(); })
@@ -303,13 +300,12 @@ struct OwnershipTransfer {
     static std::unique_ptr<Base> Release(const py::handle& object)
     {
         if (!py::isinstance<Base>(object))
-            throw py::type_error("expected " + std::string(py::detail::get_type_info(typeid(Base))->type->tp_name)
-                                 + ", got " + std::string(Py_TYPE(object.ptr())->tp_name));
+            throw py::type_error("expected " + std::string(py::detail::get_type_info(typeid(Base))->type->tp_name) + ", got "
+                                 + std::string(Py_TYPE(object.ptr())->tp_name));
         auto* instance = reinterpret_cast<py::detail::instance*>(object.ptr());
         auto holder = instance->get_value_and_holder(py::detail::get_type_info(Py_TYPE(object.ptr())));
         if (!instance->owned || !holder.holder_constructed())
-            throw py::value_error(
-                "the object already belongs to an array; remove it from there first or add a clone");
+            throw py::value_error("the object already belongs to an array; remove it from there first or add a clone");
         std::unique_ptr<Base> released;
         const bool known = ((holder.type->cpptype == &typeid(Concrete) && Take<Concrete>(holder, released)) || ...);
         if (!known)
@@ -376,14 +372,13 @@ void DefineOwningArray(Class& cls, const char* name)
                 return self.At(static_cast<int>(FromEnd(index, static_cast<std::size_t>(self.Size()))));
             },
             py::return_value_policy::reference_internal)
-        .def(
-            "__iter__",
-            [](py::object self) {
-                py::list values;
-                for (py::ssize_t i = 0, size = py::len(self); i < size; ++i)
-                    values.append(self.attr("__getitem__")(i));
-                return py::iter(values);
-            })
+        .def("__iter__",
+             [](py::object self) {
+                 py::list values;
+                 for (py::ssize_t i = 0, size = py::len(self); i < size; ++i)
+                     values.append(self.attr("__getitem__")(i));
+                 return py::iter(values);
+             })
         .def("append",
              [](py::object self, const py::object& element) {
                  auto& array = self.cast<Array&>();
@@ -447,9 +442,8 @@ py::enum_<E> BindEnumeration(py::handle scope, const char* name, const char* doc
             member += "_";
         enumeration.value(member.c_str(), value);
     }
-    enumeration.attr("__str__") =
-        py::cpp_function([toText](E value) { return std::string(toText(value)); }, py::name("__str__"),
-                         py::is_method(enumeration));
+    enumeration.attr("__str__") = py::cpp_function([toText](E value) { return std::string(toText(value)); },
+                                                   py::name("__str__"), py::is_method(enumeration));
     enumeration.def_static(
         "from_string",
         [toValue](const std::string& text, bool strict) {

@@ -14,8 +14,8 @@ template <typename T>
 void DefineFirstDifference(py::module_& module)
 {
     module.def(
-        "first_difference", [](const T& left, const T& right) { return FirstDifference(left, right); },
-        py::arg("left"), py::arg("right"),
+        "first_difference", [](const T& left, const T& right) { return FirstDifference(left, right); }, py::arg("left"),
+        py::arg("right"),
         "The first difference between two objects of one class, in the order operator== compares them, or None "
         "when they are equal.");
 }
@@ -43,8 +43,8 @@ void BindFirstDifference(py::module_& module)
     DefineEquality(difference);
     DefineFirstDifferences<MediaAsset, MediaResource, Stream, Essence, Location, Track, TrackLayout, TrackLayoutItem,
                            Annotation, TimeBoundsArray, MetadataProfileDictionary, PelkOperatorMetadataProfile,
-                           AnglesPelkOperatorMetadataProfile, MetadataProfile, TimeCodeTable, MediaAssetGroup, MediaAssetGroupItem>(
-        module);
+                           AnglesPelkOperatorMetadataProfile, MetadataProfile, TimeCodeTable, MediaAssetGroup,
+                           MediaAssetGroupItem>(module);
 }
 
 }  // namespace Orvik::Python

@@ -5,9 +5,9 @@
 namespace Orvik::Python {
 
 /// One enumeration of the namespace: its ToString and its To<Name> pair.
-#define ORVIK_ENUMERATION(Name, doc)                                                  \
-    BindEnumeration<MA::Name>(                                                       \
-        module, #Name, doc, [](MA::Name value) { return MA::ToString(value); },     \
+#define ORVIK_ENUMERATION(Name, doc)                                                                                        \
+    BindEnumeration<MA::Name>(                                                                                              \
+        module, #Name, doc, [](MA::Name value) { return MA::ToString(value); },                                             \
         [](const std::string& text, bool& failed) { return MA::To##Name(text, failed); })
 
 void BindEnumerations(py::module_& module)

@@ -52,8 +52,7 @@ void BindEssences(py::module_& module)
         .ORVIK_PROPERTY(AspectRatio, "width_factor", WidthFactor)
         .ORVIK_PROPERTY(AspectRatio, "height_factor", HeightFactor)
         .def("__repr__", [](const AspectRatio& self) {
-            return "AspectRatio(" + std::to_string(self.WidthFactor()) + ", " + std::to_string(self.HeightFactor())
-                + ")";
+            return "AspectRatio(" + std::to_string(self.WidthFactor()) + ", " + std::to_string(self.HeightFactor()) + ")";
         });
     DefineEquality(aspectRatio);
 
@@ -101,15 +100,15 @@ void BindEssences(py::module_& module)
         .def(
             "__lt__", [](const TimeCodeJump& a, const TimeCodeJump& b) { return a < b; }, py::is_operator())
         .def("__copy__", [](const TimeCodeJump& self) { return std::make_shared<TimeCodeJump>(self); })
-        .def("__deepcopy__",
-             [](const TimeCodeJump& self, const py::dict&) { return std::make_shared<TimeCodeJump>(self); })
+        .def("__deepcopy__", [](const TimeCodeJump& self, const py::dict&) { return std::make_shared<TimeCodeJump>(self); })
         .def("__repr__", [](const TimeCodeJump& self) {
             return "<TimeCodeJump " + std::to_string(self.TimePoint().ToNanoseconds()) + " "
                 + Quoted(self.TimeCode().Value()) + ">";
         });
     DefineEquality(jump);
 
-    py::class_<SortedVectorSharedPointer<TimeCodeJump>, ContainerHolder<SortedVectorSharedPointer<TimeCodeJump>>> jumps(module, "TimeCodeJumpVector");
+    py::class_<SortedVectorSharedPointer<TimeCodeJump>, ContainerHolder<SortedVectorSharedPointer<TimeCodeJump>>> jumps(
+        module, "TimeCodeJumpVector");
     DefineSortedVector<SortedVectorSharedPointer<TimeCodeJump>>(jumps, "TimeCodeJumpVector");
 
     py::class_<TimeCodeTable, std::shared_ptr<TimeCodeTable>> table(
@@ -124,14 +123,15 @@ void BindEssences(py::module_& module)
         .def(
             "__lt__", [](const TimeCodeTable& a, const TimeCodeTable& b) { return a < b; }, py::is_operator())
         .def("__copy__", [](const TimeCodeTable& self) { return std::make_shared<TimeCodeTable>(self); })
-        .def("__repr__", [](const TimeCodeTable& self) {
-            return "<TimeCodeTable " + Quoted(self.FullyQualifiedName().Value()) + ">";
-        });
+        .def("__repr__",
+             [](const TimeCodeTable& self) { return "<TimeCodeTable " + Quoted(self.FullyQualifiedName().Value()) + ">"; });
     DefineEquality(table);
 
-    py::class_<SortedVectorSharedPointer<TrackChannel>, ContainerHolder<SortedVectorSharedPointer<TrackChannel>>> channels(module, "TrackChannelVector");
+    py::class_<SortedVectorSharedPointer<TrackChannel>, ContainerHolder<SortedVectorSharedPointer<TrackChannel>>> channels(
+        module, "TrackChannelVector");
     DefineSortedVector<SortedVectorSharedPointer<TrackChannel>>(channels, "TrackChannelVector");
-    py::class_<SortedVectorSharedPointer<TimeCodeTable>, ContainerHolder<SortedVectorSharedPointer<TimeCodeTable>>> tables(module, "TimeCodeTableVector");
+    py::class_<SortedVectorSharedPointer<TimeCodeTable>, ContainerHolder<SortedVectorSharedPointer<TimeCodeTable>>> tables(
+        module, "TimeCodeTableVector");
     DefineSortedVector<SortedVectorSharedPointer<TimeCodeTable>>(tables, "TimeCodeTableVector");
 
     py::class_<Essence> essence(
@@ -195,8 +195,8 @@ void BindEssences(py::module_& module)
                                       "The essences of a stream, owned, in insertion order. append() and insert() "
                                       "take the essence over: the Python name keeps referring to it inside the "
                                       "stream. An essence belongs to one array at a time.");
-    DefineOwningArray<EssenceArray, OwnershipTransfer<Essence, AudioEssence, VideoEssence, DataEssence>>(
-        essences, "EssenceArray");
+    DefineOwningArray<EssenceArray, OwnershipTransfer<Essence, AudioEssence, VideoEssence, DataEssence>>(essences,
+                                                                                                         "EssenceArray");
 }
 
 }  // namespace Orvik::Python

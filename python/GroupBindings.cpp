@@ -54,8 +54,7 @@ void BindGroups(py::module_& module)
         .def("__copy__",
              [](const AnglesMediaAssetGroupItem& self) { return std::make_shared<AnglesMediaAssetGroupItem>(self); })
         .def("__repr__", [](const AnglesMediaAssetGroupItem& self) {
-            return "<AnglesMediaAssetGroupItem " + Quoted(self.MediaAsset().Id().Value()) + " " + Quoted(self.Name()) +
-                   ">";
+            return "<AnglesMediaAssetGroupItem " + Quoted(self.MediaAsset().Id().Value()) + " " + Quoted(self.Name()) + ">";
         });
 
     py::class_<MediaAssetGroupItemArray> items(module, "MediaAssetGroupItemArray",
@@ -133,8 +132,7 @@ void BindGroups(py::module_& module)
             },
             py::arg("asset_id"),
             "The angles item of the asset: KeyError when there is none, RuntimeError when it is of another kind.")
-        .def("__copy__",
-             [](const AnglesMediaAssetGroup& self) { return std::make_shared<AnglesMediaAssetGroup>(self); });
+        .def("__copy__", [](const AnglesMediaAssetGroup& self) { return std::make_shared<AnglesMediaAssetGroup>(self); });
 }
 
 }  // namespace Orvik::Python

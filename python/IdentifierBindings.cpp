@@ -11,10 +11,7 @@ using MA::ZanServerId;
 
 }  // namespace
 
-std::string CameraText(char camera)
-{
-    return camera == '\0' ? std::string() : std::string(1, camera);
-}
+std::string CameraText(char camera) { return camera == '\0' ? std::string() : std::string(1, camera); }
 
 char CameraFromText(const std::string& text)
 {
@@ -87,7 +84,8 @@ void BindIdentifiers(py::module_& module)
         .def_static("is_valid_page", &PelkId::IsValidPage)
         .def_static("is_valid_bank", &PelkId::IsValidBank)
         .def_static("is_valid_row", &PelkId::IsValidRow)
-        .def_static("is_valid_camera", [](const std::string& camera) { return PelkId::IsValidCamera(CameraFromText(camera)); })
+        .def_static("is_valid_camera",
+                    [](const std::string& camera) { return PelkId::IsValidCamera(CameraFromText(camera)); })
         .def("to_short_string", &PelkId::ToShortString)
         .def("__str__", &PelkId::ToString)
         .def("__repr__", [](const PelkId& self) { return "PelkId(" + Quoted(self.ToString()) + ")"; })
@@ -123,8 +121,8 @@ void BindIdentifiers(py::module_& module)
         .def_readonly_static("WHITE", &Color::White)
         .def_static("make", py::overload_cast<uint32_t, uint32_t, uint32_t, uint32_t>(&Color::Make), py::arg("alpha"),
                     py::arg("red"), py::arg("green"), py::arg("blue"))
-        .def_static("make", py::overload_cast<uint32_t, uint32_t, uint32_t>(&Color::Make), py::arg("red"),
-                    py::arg("green"), py::arg("blue"))
+        .def_static("make", py::overload_cast<uint32_t, uint32_t, uint32_t>(&Color::Make), py::arg("red"), py::arg("green"),
+                    py::arg("blue"))
         .def_static("get_alpha", &Color::GetAlpha)
         .def_static("get_red", &Color::GetRed)
         .def_static("get_green", &Color::GetGreen)

@@ -80,8 +80,9 @@ void BindLocations(py::module_& module)
                                         "The locations of a stream, owned, in insertion order. append() and insert() "
                                         "take the location over: the Python name keeps referring to it inside the "
                                         "stream. A location belongs to one array at a time.");
-    DefineOwningArray<LocationArray, OwnershipTransfer<Location, FileLocation, ZanLocation, DaxContentTrackLocation,
-                                                       DaxProtectLocation>>(locations, "LocationArray");
+    DefineOwningArray<LocationArray,
+                      OwnershipTransfer<Location, FileLocation, ZanLocation, DaxContentTrackLocation, DaxProtectLocation>>(
+        locations, "LocationArray");
 }
 
 }  // namespace Orvik::Python

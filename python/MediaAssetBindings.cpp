@@ -64,8 +64,7 @@ void BindMediaAsset(py::module_& module)
                 return self.Metadata().Get<PelkOperatorMetadataProfile>();
             },
             "The operator profile in the metadata, shared with it; RuntimeError when there is none.")
-        .def("get_duration", &MediaAsset::GetDuration,
-             "Zero while the out boundary is unset, otherwise out minus in.")
+        .def("get_duration", &MediaAsset::GetDuration, "Zero while the out boundary is unset, otherwise out minus in.")
         .def(
             "__lt__", [](const MediaAsset& a, const MediaAsset& b) { return a < b; }, py::is_operator())
         .def("__repr__", [](const MediaAsset& self) {

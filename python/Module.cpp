@@ -15,8 +15,8 @@ namespace Orvik::Python {
 bool LoadText(py::handle source, std::string& text)
 {
     if (PyUnicode_Check(source.ptr())) {
-        const py::object bytes = py::reinterpret_steal<py::object>(
-            PyUnicode_AsEncodedString(source.ptr(), "utf-8", "surrogateescape"));
+        const py::object bytes =
+            py::reinterpret_steal<py::object>(PyUnicode_AsEncodedString(source.ptr(), "utf-8", "surrogateescape"));
         if (!bytes) {
             PyErr_Clear();
             return false;
@@ -33,22 +33,15 @@ bool LoadText(py::handle source, std::string& text)
 
 py::handle TextToPython(const std::string& text)
 {
-    PyObject* result =
-        PyUnicode_DecodeUTF8(text.data(), static_cast<py::ssize_t>(text.size()), "surrogateescape");
+    PyObject* result = PyUnicode_DecodeUTF8(text.data(), static_cast<py::ssize_t>(text.size()), "surrogateescape");
     if (result == nullptr)
         throw py::error_already_set();
     return result;
 }
 
-std::string Repr(const py::handle& value)
-{
-    return py::repr(value).cast<std::string>();
-}
+std::string Repr(const py::handle& value) { return py::repr(value).cast<std::string>(); }
 
-std::string Quoted(const std::string& text)
-{
-    return Repr(py::reinterpret_steal<py::object>(TextToPython(text)));
-}
+std::string Quoted(const std::string& text) { return Repr(py::reinterpret_steal<py::object>(TextToPython(text))); }
 
 std::size_t FromEnd(py::ssize_t index, std::size_t size)
 {
@@ -66,8 +59,9 @@ PYBIND11_MODULE(orvik_media_assets, module)
 {
     using namespace Orvik::Python;
     module.doc() = "The in-memory data model of media assets for live broadcast production.";
-    py::module_ timePoints = module.def_submodule("time_points", "Time values: points, durations, boundaries, "
-                                                                 "bounds, rates and timecodes.");
+    py::module_ timePoints = module.def_submodule("time_points",
+                                                  "Time values: points, durations, boundaries, "
+                                                  "bounds, rates and timecodes.");
     BindBaseTypes(module);
     BindTimeValues(module, timePoints);
     BindEnumerations(module);

@@ -32,7 +32,8 @@ void BindOperatorMetadata(py::module_& module)
         .def_readonly_static("ZAN3_MAX_KEYWORD_LENGTH", &Profile::Zan3MaxKeywordLength)
         .def_static("static_fully_qualified_name", &Profile::StaticFullyQualifiedName)
         .def_static("static_keys", &Profile::StaticKeys)
-        .def_static("empty", [] { return MemberwiseCopy(Profile::Empty()); }, "A new default profile.")
+        .def_static(
+            "empty", [] { return MemberwiseCopy(Profile::Empty()); }, "A new default profile.")
         .ORVIK_PROPERTY(Profile, "server_id", ServerId)
         .ORVIK_PROPERTY(Profile, "page", Page)
         .ORVIK_PROPERTY(Profile, "bank", Bank)
@@ -55,11 +56,10 @@ void BindOperatorMetadata(py::module_& module)
         .ORVIK_PROPERTY(Profile, "color", Color)
         .ORVIK_PROPERTY(Profile, "fill_and_key_type", FillAndKeyType)
         .ORVIK_PROPERTY(Profile, "fill_and_key_media_asset_id", FillAndKeyMediaAssetId)
-        .def_property(
-            "user_protected", &Profile::IsUserProtected, [](Profile& self, bool value) { self.UserProtected(value); })
-        .def_property(
-            "pelk_ui_protected", &Profile::IsPelkUiProtected,
-            [](Profile& self, bool value) { self.PelkUIProtected(value); })
+        .def_property("user_protected", &Profile::IsUserProtected,
+                      [](Profile& self, bool value) { self.UserProtected(value); })
+        .def_property("pelk_ui_protected", &Profile::IsPelkUiProtected,
+                      [](Profile& self, bool value) { self.PelkUIProtected(value); })
         .def(
             "keyword", [](const Profile& self, std::size_t index) { return self.Keyword(index); }, py::arg("index"),
             "The keyword in slot `index`, or '' beyond the last slot.")
@@ -80,9 +80,8 @@ void BindOperatorMetadata(py::module_& module)
         .def("any_keyword", py::overload_cast<const Utf8String&>(&Profile::AnyKeyword, py::const_), py::arg("keyword"))
         .def("clear_keywords", &Profile::ClearKeywords)
         .def("__copy__", &MemberwiseCopy<Profile>)
-        .def("__repr__", [](const Profile& self) {
-            return "<PelkOperatorMetadataProfile " + Quoted(self.PelkId().ToString()) + ">";
-        });
+        .def("__repr__",
+             [](const Profile& self) { return "<PelkOperatorMetadataProfile " + Quoted(self.PelkId().ToString()) + ">"; });
     DefineObjectId(profile);
 
     using AnglesProfile = AnglesPelkOperatorMetadataProfile;
@@ -93,7 +92,8 @@ void BindOperatorMetadata(py::module_& module)
     angles.def(py::init<>())
         .def(py::init<const PelkId&>(), py::arg("pelk_id"))
         .def_static("static_fully_qualified_name", &AnglesProfile::StaticFullyQualifiedName)
-        .def_static("empty", [] { return MemberwiseCopy(AnglesProfile::Empty()); }, "A new default profile.")
+        .def_static(
+            "empty", [] { return MemberwiseCopy(AnglesProfile::Empty()); }, "A new default profile.")
         .ORVIK_PROPERTY(AnglesProfile, "server_id", ServerId)
         .ORVIK_PROPERTY(AnglesProfile, "page", Page)
         .ORVIK_PROPERTY(AnglesProfile, "bank", Bank)

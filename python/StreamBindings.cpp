@@ -69,8 +69,7 @@ void BindStreams(py::module_& module)
         .ORVIK_PROPERTY(MediaResource, "general_format", GeneralFormat)
         .ORVIK_MEMBER_PROPERTY(MediaResource, "streams", Streams, StreamReferenceVector)
         .def(
-            "adopt",
-            [](MediaResource& self, const std::shared_ptr<Stream>& stream) { self.Streams().emplace_back(stream); },
+            "adopt", [](MediaResource& self, const std::shared_ptr<Stream>& stream) { self.Streams().emplace_back(stream); },
             py::arg("stream").none(false),
             "Appends a reference holding `stream` (pointer and id); the stream stays shared with the caller.")
         .def("add", &MediaResource::Add, py::arg("stream_id"), "Appends a reference to a stream by id alone.")
@@ -88,9 +87,10 @@ void BindStreams(py::module_& module)
     py::class_<MediaResourceReference> resourceReference(module, "MediaResourceReference");
     DefineSharedReference<MediaResource>(resourceReference, "MediaResourceReference");
 
-    py::class_<MediaResourceReferenceVector, ContainerHolder<MediaResourceReferenceVector>> resources(module, "MediaResourceReferenceVector",
-                                                       "A media asset's references to its resources, sorted and told "
-                                                       "apart by id alone.");
+    py::class_<MediaResourceReferenceVector, ContainerHolder<MediaResourceReferenceVector>> resources(
+        module, "MediaResourceReferenceVector",
+        "A media asset's references to its resources, sorted and told "
+        "apart by id alone.");
     DefineSortedVector<MediaResourceReferenceVector>(resources, "MediaResourceReferenceVector");
 }
 

@@ -26,8 +26,8 @@ void DefineOrdering(Class& cls)
         .def("__hash__", [](const T& self) { return py::hash(py::int_(self.ToNanoseconds())); })
         .def("__int__", &T::ToNanoseconds)
         .def("__repr__", [](const T& self) {
-            return std::string(py::str(py::type::of<T>().attr("__name__"))) + "("
-                + std::to_string(self.ToNanoseconds()) + ")";
+            return std::string(py::str(py::type::of<T>().attr("__name__"))) + "(" + std::to_string(self.ToNanoseconds())
+                + ")";
         });
 }
 
@@ -35,8 +35,9 @@ template <typename Class>
 void DefineValueCopies(Class& cls)
 {
     using T = typename Class::type;
-    cls.def("__copy__", [](const T& self) { return T(self); })
-        .def("__deepcopy__", [](const T& self, const py::dict&) { return T(self); });
+    cls.def("__copy__", [](const T& self) { return T(self); }).def("__deepcopy__", [](const T& self, const py::dict&) {
+        return T(self);
+    });
 }
 
 }  // namespace
@@ -103,16 +104,14 @@ void BindTimeValues(py::module_& module, py::module_& timePoints)
         .ORVIK_PROPERTY(TP::TimeBoundary, "time_point", TimePoint)
         .ORVIK_PROPERTY(TP::TimeBoundary, "is_moving", IsMoving)
         .def("__repr__", [](const TP::TimeBoundary& self) {
-            return "TimeBoundary(" + Repr(py::cast(self.TimePoint())) + ", " + (self.IsMoving() ? "True" : "False")
-                + ")";
+            return "TimeBoundary(" + Repr(py::cast(self.TimePoint())) + ", " + (self.IsMoving() ? "True" : "False") + ")";
         });
     DefineEquality(boundary);
     DefineValueCopies(boundary);
 
     py::class_<TP::TimeBounds> bounds(timePoints, "TimeBounds", "An in/out pair of boundaries.");
     bounds.def(py::init<>())
-        .def(py::init<const TP::TimeBoundary&, const TP::TimeBoundary&>(), py::arg("in_boundary"),
-             py::arg("out_boundary"))
+        .def(py::init<const TP::TimeBoundary&, const TP::TimeBoundary&>(), py::arg("in_boundary"), py::arg("out_boundary"))
         .ORVIK_PROPERTY(TP::TimeBounds, "in_boundary", InBoundary)
         .ORVIK_PROPERTY(TP::TimeBounds, "out_boundary", OutBoundary)
         .def_property_readonly("duration", &TP::TimeBounds::Duration)
@@ -125,8 +124,8 @@ void BindTimeValues(py::module_& module, py::module_& timePoints)
     py::class_<TP::RatedTimePoint> rated(timePoints, "RatedTimePoint",
                                          "A time point with the rate it is counted in and an offset.");
     rated.def(py::init<>())
-        .def(py::init<const TP::TimePoint&, const TP::Rate&, const TP::Duration&>(), py::arg("time_point"),
-             py::arg("rate"), py::arg("delta"))
+        .def(py::init<const TP::TimePoint&, const TP::Rate&, const TP::Duration&>(), py::arg("time_point"), py::arg("rate"),
+             py::arg("delta"))
         .ORVIK_PROPERTY(TP::RatedTimePoint, "time_point", TimePoint)
         .ORVIK_PROPERTY(TP::RatedTimePoint, "rate", Rate)
         .ORVIK_PROPERTY(TP::RatedTimePoint, "delta", Delta);

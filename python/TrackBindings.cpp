@@ -21,8 +21,8 @@ void BindTracks(py::module_& module)
         .ORVIK_PROPERTY(TrackChannelToRemove, "essence_nr", EssenceNr)
         .ORVIK_PROPERTY(TrackChannelToRemove, "channel_nr", ChannelNr)
         .def("__repr__", [](const TrackChannelToRemove& self) {
-            return "<TrackChannelToRemove " + Quoted(self.Stream().Id().Value()) + " " +
-                   std::to_string(self.EssenceNr()) + " " + std::to_string(self.ChannelNr()) + ">";
+            return "<TrackChannelToRemove " + Quoted(self.Stream().Id().Value()) + " " + std::to_string(self.EssenceNr())
+                + " " + std::to_string(self.ChannelNr()) + ">";
         });
     DefineEquality(channel);
     DefineCopies(channel, [](const TrackChannelToRemove& self) { return std::make_shared<TrackChannelToRemove>(self); });
@@ -43,14 +43,14 @@ void BindTracks(py::module_& module)
         .ORVIK_MEMBER_PROPERTY(Track, "channels", Channels, Track::ChannelVector)
         .def(
             "__lt__", [](const Track& a, const Track& b) { return a < b; }, py::is_operator())
-        .def("__repr__", [](const Track& self) {
-            return "<Track " + Quoted(self.Id().Value()) + " " + Quoted(self.Name()) + ">";
-        });
+        .def("__repr__",
+             [](const Track& self) { return "<Track " + Quoted(self.Id().Value()) + " " + Quoted(self.Name()) + ">"; });
     DefineEquality(track);
     DefineObjectId(track);
     DefineCopies(track, [](const Track& self) { return std::make_shared<Track>(self); });
 
-    py::class_<SortedVectorSharedPointer<Track>, ContainerHolder<SortedVectorSharedPointer<Track>>> tracks(module, "TrackVector");
+    py::class_<SortedVectorSharedPointer<Track>, ContainerHolder<SortedVectorSharedPointer<Track>>> tracks(module,
+                                                                                                           "TrackVector");
     DefineSortedVector<SortedVectorSharedPointer<Track>>(tracks, "TrackVector");
     py::class_<SortedVectorWeakPointer<Track>, ContainerHolder<SortedVectorWeakPointer<Track>>> layoutTracks(
         module, "TrackWeakVector",
@@ -74,7 +74,8 @@ void BindTracks(py::module_& module)
     DefineObjectId(item);
     DefineCopies(item, [](const TrackLayoutItem& self) { return TrackLayoutItem(self); });
 
-    py::class_<SortedVector<TrackLayoutItem>, ContainerHolder<SortedVector<TrackLayoutItem>>> items(module, "TrackLayoutItemVector");
+    py::class_<SortedVector<TrackLayoutItem>, ContainerHolder<SortedVector<TrackLayoutItem>>> items(module,
+                                                                                                    "TrackLayoutItemVector");
     DefineSortedVector<SortedVector<TrackLayoutItem>>(items, "TrackLayoutItemVector");
 
     py::class_<TrackLayout, std::shared_ptr<TrackLayout>> layout(
@@ -93,7 +94,8 @@ void BindTracks(py::module_& module)
     DefineObjectId(layout);
     DefineCopies(layout, [](const TrackLayout& self) { return std::make_shared<TrackLayout>(self); });
 
-    py::class_<SortedVectorSharedPointer<TrackLayout>, ContainerHolder<SortedVectorSharedPointer<TrackLayout>>> layouts(module, "TrackLayoutVector");
+    py::class_<SortedVectorSharedPointer<TrackLayout>, ContainerHolder<SortedVectorSharedPointer<TrackLayout>>> layouts(
+        module, "TrackLayoutVector");
     DefineSortedVector<SortedVectorSharedPointer<TrackLayout>>(layouts, "TrackLayoutVector");
 }
 
