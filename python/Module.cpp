@@ -53,6 +53,11 @@ std::size_t FromEnd(py::ssize_t index, std::size_t size)
     return static_cast<std::size_t>(position);
 }
 
+#ifdef ORVIK_PYTHON_JSON
+// The JSON form, bound when the JSON library is built (JsonBindings.cpp).
+void BindJson(py::module_& module);
+#endif
+
 }  // namespace Orvik::Python
 
 PYBIND11_MODULE(orvik_media_assets, module)
@@ -74,4 +79,7 @@ PYBIND11_MODULE(orvik_media_assets, module)
     BindOperatorMetadata(module);
     BindGroups(module);
     BindFirstDifference(module);
+#ifdef ORVIK_PYTHON_JSON
+    BindJson(module);
+#endif
 }
