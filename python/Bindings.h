@@ -123,7 +123,7 @@ template <typename T>
 struct DestroyExactly {
     void operator()(T* object) const
     {
-        object->~T();
+        object->T::~T();  // qualified: no virtual dispatch, and none is needed
         ::operator delete(object);
     }
 };
