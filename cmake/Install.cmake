@@ -1,6 +1,6 @@
 # Installation: headers, the shared object with its SONAME links, a CMake package
-# (find_package(OrvikMediaAssets)), a pkg-config file, and a Debian package split into the
-# runtime library and the development files.
+# (find_package(OrvikMediaAssets)) and a pkg-config file. The Debian packages are made by
+# Packaging.cmake.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -44,49 +44,3 @@ configure_file(cmake/orvik-media-assets.pc.in "${PROJECT_BINARY_DIR}/orvik-media
 install(FILES "${PROJECT_BINARY_DIR}/orvik-media-assets.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
     COMPONENT development)
-
-# Packaging belongs to the top-level project; a parent that adds this one packages itself.
-if(PROJECT_IS_TOP_LEVEL)
-    set(CPACK_PACKAGE_NAME "liborvik-media-assets")
-    set(CPACK_PACKAGE_VENDOR "Orvik")
-    set(CPACK_PACKAGE_CONTACT "Orvik media asset model maintainers <media-assets@orvik.invalid>")
-    set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
-    set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
-    set(CPACK_GENERATOR "DEB")
-    set(CPACK_DEB_COMPONENT_INSTALL ON)
-    set(CPACK_COMPONENTS_ALL runtime development)
-    if(TARGET OrvikMediaAssetsJson)
-        list(APPEND CPACK_COMPONENTS_ALL json)
-    endif()
-    set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-    set(CPACK_DEBIAN_PACKAGE_SECTION "libs")
-    set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "liborvikmediaassets${PROJECT_VERSION_MAJOR}")
-    set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
-    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME "liborvikmediaassets-dev")
-    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION "libdevel")
-    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
-    # The JSON library is a runtime package of its own; its headers, CMake component and pkg-config
-    # file are part of the -dev package, which then depends on it.
-    if(TARGET OrvikMediaAssetsJson)
-        set(CPACK_DEBIAN_JSON_PACKAGE_NAME "liborvikmediaassetsjson${PROJECT_VERSION_MAJOR}")
-        set(CPACK_DEBIAN_JSON_PACKAGE_DEPENDS
-            "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), libsimdjson14")
-        set(CPACK_COMPONENT_JSON_DESCRIPTION "In-memory data model of media assets: JSON form, shared library")
-        string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-            ", liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
-    endif()
-    set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "In-memory data model of media assets: shared library")
-    set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "In-memory data model of media assets: headers, CMake package and pkg-config file")
-    # The orvik-asset tool: a package of its own, which needs the shared libraries of the same version.
-    if(ORVIK_BUILD_TOOLS)
-        list(APPEND CPACK_COMPONENTS_ALL tools)
-        set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME "orvik-asset")
-        set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION "utils")
-        set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
-        # The project's own shared objects are found in the build tree, and depended on by name.
-        set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}" "${PROJECT_BINARY_DIR}/BusinessEntityModel/MediaAssets/Json")
-        set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
-        set(CPACK_COMPONENT_TOOLS_DESCRIPTION "In-memory data model of media assets: the orvik-asset command-line tool")
-    endif()
-    include(CPack)
-endif()

@@ -1,0 +1,47 @@
+"""Enumerations: canonical texts, the tolerant parse, and Python names."""
+
+import pytest
+
+import orvik_media_assets as orvik
+
+ENUMERATIONS = [
+    orvik.AnnotationType, orvik.ArchiveStatus, orvik.AssetType, orvik.AudioCodingFormat, orvik.BitRateMode,
+    orvik.Boxing, orvik.ChromaSubSampling, orvik.ColorSpace, orvik.FieldOrdering, orvik.FillAndKeyType,
+    orvik.ResourceFormat, orvik.ScanMode, orvik.TimecodePrimary, orvik.UserTimecodeType, orvik.VideoCodingFormat,
+    orvik.WrapperFormat, orvik.TimeCodeStandard, orvik.Essence.Type, orvik.Location.Type,
+]
+
+
+@pytest.mark.parametrize("enumeration", ENUMERATIONS, ids=lambda e: e.__name__)
+def test_every_value_round_trips_through_its_text(enumeration):
+    members = list(enumeration.__members__.values())
+    assert [int(member) for member in members] == list(range(len(members)))
+    for member in members:
+        assert enumeration.from_string(str(member), strict=True) == member
+    past_the_end = enumeration(len(members))
+    assert str(past_the_end) == str(enumeration(0))
+
+
+TEXTS = [
+    (orvik.VideoCodingFormat.AvidDNxHDHigh, "AvidDNxHDHigh"),
+    (orvik.WrapperFormat.MXFOP1a_SonyXAVC, "MXFOP1a_SonyXAVC"),
+    (orvik.TimeCodeStandard.SmpteNtsc30Drop, "smpte.ntsc.30.drop"),
+    (orvik.ArchiveStatus.None_, "None"),
+    (orvik.Essence.Video, "Video"),
+    (orvik.Location.ZanLocation, "ZanLocation"),
+]
+
+
+@pytest.mark.parametrize("value, text", TEXTS)
+def test_str_is_the_canonical_text(value, text):
+    assert str(value) == text
+
+
+def test_unknown_text_gives_value_zero_unless_strict():
+    assert orvik.AssetType.from_string("Media") == orvik.AssetType.unknown
+    assert orvik.AssetType.from_string("") == orvik.AssetType.unknown
+    assert orvik.UserTimecodeType.from_string("nope") == orvik.UserTimecodeType.HancVitc
+    assert orvik.Essence.Type.from_string("Picture") == orvik.Essence.Audio
+    assert orvik.AssetType.from_string("unknown", strict=True) == orvik.AssetType.unknown
+    with pytest.raises(ValueError):
+        orvik.Location.Type.from_string("File", strict=True)
