@@ -21,8 +21,8 @@ void MeasureAllocations(benchmark::State& state, Operation operation)
     const uint64_t before = AllocationCount();
     for (auto _ : state)
         operation();
-    state.counters["allocs/op"] = benchmark::Counter(static_cast<double>(AllocationCount() - before),
-                                                     benchmark::Counter::kAvgIterations);
+    state.counters["allocs/op"] =
+        benchmark::Counter(static_cast<double>(AllocationCount() - before), benchmark::Counter::kAvgIterations);
 }
 
 }  // namespace OrvikBenchmarks

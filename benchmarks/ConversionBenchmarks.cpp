@@ -91,10 +91,9 @@ void EnumerationRoundTrip(benchmark::State& state, Print print, Parse parse, int
     });
 }
 
-#define ROUND_TRIP(name, E, print, parse, count)                                                     \
-    BENCHMARK_CAPTURE(                                                                               \
-        EnumerationRoundTrip, name,                                                                  \
-        [](int32_t value) -> decltype(auto) { return print(static_cast<E>(value)); },                \
+#define ROUND_TRIP(name, E, print, parse, count)                                                                            \
+    BENCHMARK_CAPTURE(                                                                                                      \
+        EnumerationRoundTrip, name, [](int32_t value) -> decltype(auto) { return print(static_cast<E>(value)); },           \
         [](const std::string& text, bool& failed) { return parse(text, failed); }, count)
 #define ENUMERATION(E, count) ROUND_TRIP(E, E, ToString, To##E, count)
 ENUMERATION(AnnotationType, 2);

@@ -39,15 +39,9 @@ bool EqualAll(const std::vector<A>& a, const std::vector<B>& b, Equal equal)
     return true;
 }
 
-bool Equal(const Boundary& a, const Boundary& b)
-{
-    return a.at == b.at && a.moving == b.moving;
-}
+bool Equal(const Boundary& a, const Boundary& b) { return a.at == b.at && a.moving == b.moving; }
 
-bool Equal(const Bounds& a, const Bounds& b)
-{
-    return Equal(a.in, b.in) && Equal(a.out, b.out);
-}
+bool Equal(const Bounds& a, const Bounds& b) { return Equal(a.in, b.in) && Equal(a.out, b.out); }
 
 bool Equal(const BoundsList& a, const BoundsList& b)
 {
@@ -57,18 +51,17 @@ bool Equal(const BoundsList& a, const BoundsList& b)
 
 bool Equal(const Timecode& a, const Timecode& b)
 {
-    return a.rateNumerator == b.rateNumerator && a.rateDenominator == b.rateDenominator
-        && a.totalSample == b.totalSample && a.isDrop == b.isDrop && a.hasDate == b.hasDate;
+    return a.rateNumerator == b.rateNumerator && a.rateDenominator == b.rateDenominator && a.totalSample == b.totalSample
+        && a.isDrop == b.isDrop && a.hasDate == b.hasDate;
 }
 
 bool Equal(const Profile& a, const Profile& b)
 {
-    return a.serverId == b.serverId && a.page == b.page && a.bank == b.bank && a.clip == b.clip
-        && a.camera == b.camera && a.umId == b.umId && a.varId == b.varId && a.rating == b.rating
-        && a.archiveStatus == b.archiveStatus && a.userTimecodeType == b.userTimecodeType
-        && a.primaryTimecode == b.primaryTimecode && Equal(a.userTimecode, b.userTimecode)
-        && Equal(a.todTimecode, b.todTimecode) && a.icon == b.icon && a.color == b.color
-        && a.keywords == b.keywords && a.fillAndKeyType == b.fillAndKeyType
+    return a.serverId == b.serverId && a.page == b.page && a.bank == b.bank && a.clip == b.clip && a.camera == b.camera
+        && a.umId == b.umId && a.varId == b.varId && a.rating == b.rating && a.archiveStatus == b.archiveStatus
+        && a.userTimecodeType == b.userTimecodeType && a.primaryTimecode == b.primaryTimecode
+        && Equal(a.userTimecode, b.userTimecode) && Equal(a.todTimecode, b.todTimecode) && a.icon == b.icon
+        && a.color == b.color && a.keywords == b.keywords && a.fillAndKeyType == b.fillAndKeyType
         && a.fillAndKeyAssetId == b.fillAndKeyAssetId;
 }
 
@@ -132,17 +125,17 @@ bool Equal(const Essence& a, const Essence& b)
         && EqualAll(a.channels, b.channels,
                     [](const auto& x, const auto& y) { return x->trackId == y->trackId && x->channelNr == y->channelNr; })
         && EqualAll(a.timecodes, b.timecodes, [](const auto& x, const auto& y) { return Equal(*x, *y); })
-        && a.codec == b.codec && a.bitRate == b.bitRate && a.bitRateMode == b.bitRateMode
-        && a.bitDepth == b.bitDepth && a.rateNumerator == b.rateNumerator && a.rateDenominator == b.rateDenominator
-        && a.height == b.height && a.width == b.width && a.chromaSubSampling == b.chromaSubSampling
-        && a.colorSpace == b.colorSpace && a.scanMode == b.scanMode && a.fourCC == b.fourCC
-        && a.aspectWidth == b.aspectWidth && a.aspectHeight == b.aspectHeight && a.boxing == b.boxing;
+        && a.codec == b.codec && a.bitRate == b.bitRate && a.bitRateMode == b.bitRateMode && a.bitDepth == b.bitDepth
+        && a.rateNumerator == b.rateNumerator && a.rateDenominator == b.rateDenominator && a.height == b.height
+        && a.width == b.width && a.chromaSubSampling == b.chromaSubSampling && a.colorSpace == b.colorSpace
+        && a.scanMode == b.scanMode && a.fourCC == b.fourCC && a.aspectWidth == b.aspectWidth
+        && a.aspectHeight == b.aspectHeight && a.boxing == b.boxing;
 }
 
 bool Equal(const Location& a, const Location& b)
 {
-    return a.kind == b.kind && a.name == b.name && a.size == b.size && a.isReadOnly == b.isReadOnly
-        && a.uri == b.uri && a.creationDate == b.creationDate && a.modificationDate == b.modificationDate
+    return a.kind == b.kind && a.name == b.name && a.size == b.size && a.isReadOnly == b.isReadOnly && a.uri == b.uri
+        && a.creationDate == b.creationDate && a.modificationDate == b.modificationDate
         && a.lastAccessDate == b.lastAccessDate && a.serverId == b.serverId && a.sequenceId == b.sequenceId;
 }
 
@@ -184,10 +177,7 @@ std::unique_ptr<Annotation> Copy(const Annotation& annotation)
         Annotation{annotation.type, annotation.data, annotation.bounds, Copy(annotation.metadata)});
 }
 
-bool SameTrack(const Track& a, const Track& b)
-{
-    return a.id == b.id && a.name == b.name;
-}
+bool SameTrack(const Track& a, const Track& b) { return a.id == b.id && a.name == b.name; }
 
 bool Equal(const Layout& a, const Layout& b)
 {
@@ -224,8 +214,8 @@ BoundsList FromModel(const Model::TimeBoundsArray& bounds)
 
 Timecode FromModel(const Model::Timecode& timecode)
 {
-    return Timecode{timecode.Rate().Numerator(), timecode.Rate().Denominator(), timecode.TotalSample(),
-                    timecode.IsDrop(), timecode.HasDate()};
+    return Timecode{timecode.Rate().Numerator(), timecode.Rate().Denominator(), timecode.TotalSample(), timecode.IsDrop(),
+                    timecode.HasDate()};
 }
 
 Metadata FromModel(const Model::MetadataProfileDictionary& dictionary)
@@ -274,8 +264,8 @@ std::shared_ptr<const TimecodeTable> FromModel(const Model::TimeCodeTable& model
         made->standard = static_cast<int32_t>(model.Standard());
         made->type = model.Type();
         for (const auto& jump : model.TimeCodeJumpItems())
-            made->jumps.push_back(std::make_unique<Jump>(
-                Jump{jump->TimePoint().ToNanoseconds(), jump->TimeCode().Value(), jump->Duration()}));
+            made->jumps.push_back(
+                std::make_unique<Jump>(Jump{jump->TimePoint().ToNanoseconds(), jump->TimeCode().Value(), jump->Duration()}));
         table = std::move(made);
     }
     return table;
@@ -462,18 +452,16 @@ Asset DeepCopy(const Asset& asset)
     copy.layouts = CopyAll(asset.layouts);
     copy.resources.reserve(asset.resources.size());
     for (const auto& reference : asset.resources)
-        copy.resources.push_back(
-            ResourceReference{reference.id, reference.resource ? Copy(*reference.resource) : nullptr});
+        copy.resources.push_back(ResourceReference{reference.id, reference.resource ? Copy(*reference.resource) : nullptr});
     copy.annotations = CopyAll(asset.annotations, [](const Annotation& annotation) { return Copy(annotation); });
     return copy;
 }
 
 bool Equal(const Asset& a, const Asset& b)
 {
-    return a.id == b.id && a.type == b.type && a.ancestorId == b.ancestorId && a.parentId == b.parentId
-        && a.name == b.name && a.description == b.description && Equal(a.physicalTimebounds, b.physicalTimebounds)
-        && a.creationDate == b.creationDate && a.modificationDate == b.modificationDate
-        && Equal(a.metadata, b.metadata)
+    return a.id == b.id && a.type == b.type && a.ancestorId == b.ancestorId && a.parentId == b.parentId && a.name == b.name
+        && a.description == b.description && Equal(a.physicalTimebounds, b.physicalTimebounds)
+        && a.creationDate == b.creationDate && a.modificationDate == b.modificationDate && Equal(a.metadata, b.metadata)
         && EqualAll(a.tracks, b.tracks, [](const auto& x, const auto& y) { return SameTrack(*x, *y); })
         && EqualAll(a.layouts, b.layouts, [](const auto& x, const auto& y) { return Equal(*x, *y); })
         && EqualAll(a.resources, b.resources, [](const auto& x, const auto& y) { return x.id == y.id; })

@@ -19,8 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     }
     Check(id.IsValid(), "a returned identifier is valid");
     const PelkId again = PelkId::FromUri(id.ToShortString());
-    Check(again.Page() == id.Page() && again.Bank() == id.Bank() && again.Row() == id.Row()
-              && again.Camera() == id.Camera(),
+    Check(again.Page() == id.Page() && again.Bank() == id.Bank() && again.Row() == id.Row() && again.Camera() == id.Camera(),
           "FromUri(ToShortString()) gives back page, bank, row and camera");
     return 0;
 }

@@ -19,7 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     Check(count <= size && count * 4 >= size, "between a quarter and all of the bytes");
     Check(Utf8String(data, size).Characters() == count, "the member counter agrees");
     const std::string text = Text(data, size);
-    Check(Utf8String::GetCharactersCount(text.c_str()) == Utf8String::GetCharactersCount(text.c_str(), std::strlen(text.c_str())),
+    Check(Utf8String::GetCharactersCount(text.c_str())
+              == Utf8String::GetCharactersCount(text.c_str(), std::strlen(text.c_str())),
           "the zero-terminated counter stops at the first zero");
     return 0;
 }

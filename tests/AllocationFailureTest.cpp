@@ -77,15 +77,15 @@ void ExpectFailedClonesLeaveTheSource(Make make, Clone clone)
     for (uint64_t seed = 1; seed <= kSeeds; ++seed) {
         const Object source = make(ArbitraryObjects(seed));
         const Object expected = make(ArbitraryObjects(seed));
-        failures += FailEachAllocationInTurn([&] { clone(source); },
-                                                           [&](uint64_t n) {
-                                                               if constexpr (std::is_same_v<Object, MediaAsset>
-                                                                             || std::is_same_v<Object, MediaResource>
-                                                                             || std::is_same_v<Object, Stream>)
-                                                                   AcceptEmptiedEssenceMetadata(source, expected);
-                                                               ASSERT_TRUE(source == expected)
-                                                                   << "seed " << seed << ", allocation " << n;
-                                                           });
+        failures += FailEachAllocationInTurn(
+            [&] { clone(source); },
+            [&](uint64_t n) {
+                if constexpr (std::is_same_v<
+                                  Object,
+                                  MediaAsset> || std::is_same_v<Object, MediaResource> || std::is_same_v<Object, Stream>)
+                    AcceptEmptiedEssenceMetadata(source, expected);
+                ASSERT_TRUE(source == expected) << "seed " << seed << ", allocation " << n;
+            });
     }
     EXPECT_GT(failures, 0u) << typeid(Object).name();
 }
@@ -96,9 +96,8 @@ TEST(AllocationFailure, FailedEntityClonesLeaveTheSourceAsDocumented)
 {
     ExpectFailedClonesLeaveTheSource<MediaAsset>([](ArbitraryObjects objects) { return objects.MediaAsset(); },
                                                  [](const MediaAsset& asset) { asset.Clone(); });
-    ExpectFailedClonesLeaveTheSource<MediaResource>(
-        [](ArbitraryObjects objects) { return objects.MediaResource(); },
-        [](const MediaResource& resource) { resource.Clone(); });
+    ExpectFailedClonesLeaveTheSource<MediaResource>([](ArbitraryObjects objects) { return objects.MediaResource(); },
+                                                    [](const MediaResource& resource) { resource.Clone(); });
     ExpectFailedClonesLeaveTheSource<Stream>([](ArbitraryObjects objects) { return objects.Stream(); },
                                              [](const Stream& stream) { stream.Clone(); });
     ExpectFailedClonesLeaveTheSource<Track>([](ArbitraryObjects objects) { return objects.Track(); },
@@ -180,8 +179,7 @@ TEST(AllocationFailure, FailedSortedInsertsLeaveTheVectorAsItWas)
         MediaAsset asset = objects.MediaAsset();
         const MediaAsset expected = ArbitraryObjects(seed).MediaAsset();
         auto track = std::make_shared<Track>(TrackId("inserted track"));
-        FailEachAllocationInTurn([&] { asset.Tracks().Insert(track); },
-                                 [&](uint64_t) { ASSERT_TRUE(asset == expected); });
+        FailEachAllocationInTurn([&] { asset.Tracks().Insert(track); }, [&](uint64_t) { ASSERT_TRUE(asset == expected); });
         EXPECT_EQ(asset.Tracks().Size(), expected.Tracks().Size() + 1);
         auto renamed = std::make_shared<Track>(TrackId("replacing track"));
         FailEachAllocationInTurn([&] { asset.Tracks().Replace(track, renamed); },
@@ -196,8 +194,7 @@ TEST(AllocationFailure, FailedSortedInsertsLeaveTheVectorAsItWas)
         TimeBoundsArray bounds = objects.TimeBoundsArray();
         const TimeBoundsArray expectedBounds = bounds;
         const TimeBounds added(TimeBoundary(TimePoint(-5), false), TimeBoundary(TimePoint(-1), false));
-        FailEachAllocationInTurn([&] { bounds.Insert(added); },
-                                 [&](uint64_t) { ASSERT_TRUE(bounds == expectedBounds); });
+        FailEachAllocationInTurn([&] { bounds.Insert(added); }, [&](uint64_t) { ASSERT_TRUE(bounds == expectedBounds); });
     }
 }
 
@@ -205,7 +202,8 @@ TEST(AllocationFailure, FailedParsesReachTheCallerAndChangeNothing)
 {
     const std::vector<std::pair<const char*, std::function<void()>>> parses = {
         {"PelkId::FromUri", [] { PelkId::FromUri("123B/120"); }},
-        {"PelkId::TryParse", [] {
+        {"PelkId::TryParse",
+         [] {
              PelkId id;
              PelkId::TryParse("456C/340", id);
          }},

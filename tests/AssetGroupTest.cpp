@@ -79,8 +79,8 @@ TEST(AnglesMediaAssetGroupLookup, PlainItemThrowsNamingItsAsset)
     AnglesMediaAssetGroup group(MediaAssetGroupId("g"));
     group.Items().push_back(std::make_shared<MediaAssetGroupItem>(AssetReference("c")));
     EXPECT_THAT([&] { group.Item(MediaAssetId("c")); },
-                ThrowsMessage<std::runtime_error>(StrEq(
-                    "Orvik::DataModel::MediaAssets::AnglesMediaAssetGroup::Item: not an angles item for asset c")));
+                ThrowsMessage<std::runtime_error>(
+                    StrEq("Orvik::DataModel::MediaAssets::AnglesMediaAssetGroup::Item: not an angles item for asset c")));
 }
 
 TEST(MediaAssetGroupEquality, ComparesItemsInOrderThroughTheirOwnEquality)

@@ -34,7 +34,7 @@ void ExpectPublishedTexts(const Texts& texts, Print print, Parse parse, ParseFai
     EXPECT_EQ(print(static_cast<E>(-1)), texts[0]);
     std::string otherCase = texts.back();
     otherCase[0] = static_cast<char>(std::isupper(static_cast<unsigned char>(otherCase[0])) ? std::tolower(otherCase[0])
-                                                                                          : std::toupper(otherCase[0]));
+                                                                                            : std::toupper(otherCase[0]));
     for (const std::string& text : {std::string(), " " + texts.back(), texts.back() + " ", otherCase}) {
         SCOPED_TRACE("'" + text + "'");
         EXPECT_EQ(number(parse(text)), 0);
@@ -47,7 +47,7 @@ void ExpectPublishedTexts(const Texts& texts, Print print, Parse parse, ParseFai
 }  // namespace
 
 // For an enumeration E of the model's namespace, with ToString(E), ToE(text) and ToE(text, failed).
-#define EXPECT_PUBLISHED_TEXTS(E, texts)                                                                                \
-    ExpectPublishedTexts<E>(                                                                                            \
-        texts, [](E value) { return ToString(value); }, [](const std::string& text) { return To##E(text); },          \
+#define EXPECT_PUBLISHED_TEXTS(E, texts)                                                                                    \
+    ExpectPublishedTexts<E>(                                                                                                \
+        texts, [](E value) { return ToString(value); }, [](const std::string& text) { return To##E(text); },                \
         [](const std::string& text, bool& failed) { return To##E(text, failed); })

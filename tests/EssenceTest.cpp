@@ -138,7 +138,4 @@ TEST_F(EssenceClone, OwnsNewTrackChannels)
     EXPECT_EQ(source.TrackChannels().Size(), 1u);
 }
 
-TEST_F(EssenceClone, SharesTimecodeTables)
-{
-    EXPECT_EQ(clone->Timecodes().Front().get(), source.Timecodes().Front().get());
-}
+TEST_F(EssenceClone, SharesTimecodeTables) { EXPECT_EQ(clone->Timecodes().Front().get(), source.Timecodes().Front().get()); }

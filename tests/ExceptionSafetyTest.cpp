@@ -42,8 +42,8 @@ TEST(ExceptionSafety, DuplicateChannelInAnEssenceStopsTheStreamClone)
     stream.Essences().Add(std::move(first));
     AudioEssence second;
     // Values() does not look for duplicates, so two equal channels can stand side by side.
-    second.TrackChannels().Values({std::make_shared<TrackChannel>(Identifier("a"), 1),
-                                   std::make_shared<TrackChannel>(Identifier("a"), 1)});
+    second.TrackChannels().Values(
+        {std::make_shared<TrackChannel>(Identifier("a"), 1), std::make_shared<TrackChannel>(Identifier("a"), 1)});
     stream.Essences().Add(std::move(second));
 
     EXPECT_THAT([&] { stream.Clone(); },
@@ -70,6 +70,7 @@ TEST(ExceptionSafety, NullAnnotationStopsTheAssetClone)
 {
     MediaAsset asset(MediaAssetId("a"));
     asset.Annotations().push_back(nullptr);
-    EXPECT_THAT([&] { asset.Clone(); },
-                ThrowsMessage<std::invalid_argument>(StrEq("Orvik::DataModel::MediaAssets::MediaAsset::Clone: null annotation")));
+    EXPECT_THAT(
+        [&] { asset.Clone(); },
+        ThrowsMessage<std::invalid_argument>(StrEq("Orvik::DataModel::MediaAssets::MediaAsset::Clone: null annotation")));
 }

@@ -48,7 +48,10 @@ TEST(Utf8StringCounters, CountCodePointsWithoutReadingPastTheEnd)
     EXPECT_EQ(accented.Characters(), 1u);
     EXPECT_FALSE(accented.IsAscii());
     EXPECT_TRUE(Utf8String("abc").IsAscii());
-    EXPECT_EQ(Utf8String("a\xE2\x82\xAC" "b\xF0\x9F\x8E\xA5").Characters(), 4u);
+    EXPECT_EQ(Utf8String("a\xE2\x82\xAC"
+                         "b\xF0\x9F\x8E\xA5")
+                  .Characters(),
+              4u);
 
     // A lead byte that announces four bytes, alone at the end of an exactly sized buffer.
     const auto truncated = std::make_unique<char[]>(2);
@@ -75,7 +78,4 @@ namespace {
 struct Entity : PersistentObject {};
 }  // namespace
 
-TEST(PersistentObject, StartsUnstored)
-{
-    EXPECT_EQ(Entity().ObjectId(), -1);
-}
+TEST(PersistentObject, StartsUnstored) { EXPECT_EQ(Entity().ObjectId(), -1); }

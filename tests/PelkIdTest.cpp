@@ -11,7 +11,8 @@ using namespace Orvik::DataModel::MediaAssets;
 using ::testing::StrEq;
 using ::testing::ThrowsMessage;
 
-static_assert(PelkId::Empty() == PelkId(ZanServerId(), 255, 255, 255, '\0'), "the empty identifier is a compile-time constant");
+static_assert(PelkId::Empty() == PelkId(ZanServerId(), 255, 255, 255, '\0'),
+              "the empty identifier is a compile-time constant");
 
 namespace {
 
@@ -24,21 +25,21 @@ struct Verdict {
 };
 
 constexpr Verdict kVerdicts[] = {
-    {"123", "123/0", nullptr, 0},                                       // no camera
-    {"023A/120", "023A/120", "023A/120", 120},                          // with server
-    {"103A", "Invalid uri '103A'.", nullptr, 0},                        // bank 0
-    {"123M", "Invalid uri '123M'.", nullptr, 0},                        // camera past L
-    {"123a", "Invalid uri '123a'.", nullptr, 0},                        // lower-case camera
-    {"123A/125", "Invalid server serial number '125'.", "123A/0", 125}, // not a multiple of 10
-    {"123A/120xyz", "123A/120", "123A/120", 120},                       // trailing text ignored
-    {"123AX120", "123A/0", nullptr, 0},                                 // text after the camera
-    {"12", "Invalid uri '12'.", nullptr, 0},                            // too short
-    {"1x3A", "Invalid uri '1x3A'.", nullptr, 0},                        // not a digit
-    {"103A/125", "Invalid server serial number '125'.", nullptr, 0},    // server checked before ranges
-    {"123A/ 120", "123A/120", nullptr, 0},                              // blank: stream extraction skips it
-    {"123A/-10", "Invalid server serial number '-10'.", nullptr, 0},    // sign
-    {"123A/0", "Invalid server serial number '0'.", "123A/0", 0},       // no server
-    {"123A/", "Invalid server serial number ''.", nullptr, 0},          // nothing after the slash
+    {"123", "123/0", nullptr, 0},                                                     // no camera
+    {"023A/120", "023A/120", "023A/120", 120},                                        // with server
+    {"103A", "Invalid uri '103A'.", nullptr, 0},                                      // bank 0
+    {"123M", "Invalid uri '123M'.", nullptr, 0},                                      // camera past L
+    {"123a", "Invalid uri '123a'.", nullptr, 0},                                      // lower-case camera
+    {"123A/125", "Invalid server serial number '125'.", "123A/0", 125},               // not a multiple of 10
+    {"123A/120xyz", "123A/120", "123A/120", 120},                                     // trailing text ignored
+    {"123AX120", "123A/0", nullptr, 0},                                               // text after the camera
+    {"12", "Invalid uri '12'.", nullptr, 0},                                          // too short
+    {"1x3A", "Invalid uri '1x3A'.", nullptr, 0},                                      // not a digit
+    {"103A/125", "Invalid server serial number '125'.", nullptr, 0},                  // server checked before ranges
+    {"123A/ 120", "123A/120", nullptr, 0},                                            // blank: stream extraction skips it
+    {"123A/-10", "Invalid server serial number '-10'.", nullptr, 0},                  // sign
+    {"123A/0", "Invalid server serial number '0'.", "123A/0", 0},                     // no server
+    {"123A/", "Invalid server serial number ''.", nullptr, 0},                        // nothing after the slash
     {"123A/99999999990", "Invalid server serial number '99999999990'.", nullptr, 0},  // overflow
     {"123A", "123A/0", "123A/0", 0},
     {"999L", "999L/0", "999L/0", 0},
@@ -111,9 +112,9 @@ TEST(ZanServerIdText, AcceptsOnlyValidSerialNumbersInDecimal)
         SCOPED_TRACE(text);
         EXPECT_FALSE(ZanServerId::TryParse(text, serverId));
         EXPECT_EQ(serverId.SerialNumber(), 120);
-        EXPECT_THAT([&] { ZanServerId::Parse(text); },
-                    ThrowsMessage<std::invalid_argument>(
-                        StrEq(std::string("Invalid server serial number '") + text + "'.")));
+        EXPECT_THAT(
+            [&] { ZanServerId::Parse(text); },
+            ThrowsMessage<std::invalid_argument>(StrEq(std::string("Invalid server serial number '") + text + "'.")));
     }
     EXPECT_EQ(ZanServerId("40").ToString(), "40");
 }

@@ -17,10 +17,7 @@ struct Entity {
     const Identifier& Id() const { return id; }
 };
 
-std::shared_ptr<Entity> Loaded(const char* id)
-{
-    return std::make_shared<Entity>(Entity{Identifier(id)});
-}
+std::shared_ptr<Entity> Loaded(const char* id) { return std::make_shared<Entity>(Entity{Identifier(id)}); }
 
 }  // namespace
 

@@ -98,9 +98,12 @@ TEST(SortedVectorLookup, FindsTheEqualElementAmongSameKeys)
 
 TEST(SortedVectorLookup, OutOfRangeIndexThrowsNamingIndexAndSize)
 {
-    EXPECT_THAT([] { Inserted({{3, "x"}, {3, "y"}}).At(2); },
-                ThrowsMessage<std::out_of_range>(
-                    StrEq("Orvik::DataModel::MediaAssets::SortedVector::CheckIndex: index 2 out of range for size 2")));
+    EXPECT_THAT(
+        [] {
+            Inserted({{3, "x"}, {3, "y"}}).At(2);
+        },
+        ThrowsMessage<std::out_of_range>(
+            StrEq("Orvik::DataModel::MediaAssets::SortedVector::CheckIndex: index 2 out of range for size 2")));
 }
 
 TEST(SortedVectorReplace, MovesElementToItsNewPlaceOrLeavesVectorUnchanged)
@@ -119,8 +122,11 @@ TEST(SortedVectorSharedPointer, OrdersAndComparesPointeesNotAddresses)
     left.Insert(std::make_shared<Keyed>(Keyed{2, "b"}));
     left.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
     EXPECT_EQ(left.Front()->label, "a");
-    EXPECT_THAT([&] { left.Insert(std::make_shared<Keyed>(Keyed{1, "a"})); },
-                ThrowsMessage<std::runtime_error>(StrEq(kDuplicate)));
+    EXPECT_THAT(
+        [&] {
+            left.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
+        },
+        ThrowsMessage<std::runtime_error>(StrEq(kDuplicate)));
     SortedVectorSharedPointer<Keyed> right;
     right.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
     right.Insert(std::make_shared<Keyed>(Keyed{2, "b"}));
@@ -146,8 +152,11 @@ TEST(SortedVectorWeakPointer, ExpiredPointeeThrowsOnInsertAndCompare)
     EXPECT_TRUE(copy == vector);
     released.reset();
     EXPECT_THAT([&] { (void)(copy == vector); }, ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
-    EXPECT_THAT([&] { vector.Insert(std::make_shared<Keyed>(Keyed{3, "c"})); },
-                ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
+    EXPECT_THAT(
+        [&] {
+            vector.Insert(std::make_shared<Keyed>(Keyed{3, "c"}));
+        },
+        ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
 }
 
 TEST(SortedVectorWeakPointer, EmptyVectorTakesAnExpiredPointer)

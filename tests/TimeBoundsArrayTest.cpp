@@ -11,18 +11,12 @@ using ::testing::ThrowsMessage;
 
 namespace {
 
-TimeBoundary At(int64_t nanoseconds, bool moving = false)
-{
-    return TimeBoundary(TimePoint(nanoseconds), moving);
-}
+TimeBoundary At(int64_t nanoseconds, bool moving = false) { return TimeBoundary(TimePoint(nanoseconds), moving); }
 
-TimeBounds Stretch(int64_t in, int64_t out)
-{
-    return TimeBounds(At(in), At(out));
-}
+TimeBounds Stretch(int64_t in, int64_t out) { return TimeBounds(At(in), At(out)); }
 
 TimeBoundsArray Bounds(std::initializer_list<TimeBounds> stretches, TimeBoundary in = TimeBoundary::Empty(),
-                      TimeBoundary out = TimeBoundary::Empty())
+                       TimeBoundary out = TimeBoundary::Empty())
 {
     TimeBoundsArray array;
     for (const auto& stretch : stretches)

@@ -10,10 +10,7 @@ thread_local bool failed = false;
 
 }  // namespace
 
-uint64_t Orvik::Testing::AllocationCount()
-{
-    return allocations;
-}
+uint64_t Orvik::Testing::AllocationCount() { return allocations; }
 
 void Orvik::Testing::FailAllocation(uint64_t n)
 {
@@ -39,27 +36,12 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
+void operator delete(void* memory) noexcept { std::free(memory); }
 
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
-void* operator new[](std::size_t size)
-{
-    return ::operator new(size);
-}
+void* operator new[](std::size_t size) { return ::operator new(size); }
 
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
+void operator delete[](void* memory) noexcept { std::free(memory); }
 
-void operator delete[](void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
+void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }

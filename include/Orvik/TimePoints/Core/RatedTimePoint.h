@@ -13,8 +13,7 @@ public:
     constexpr RatedTimePoint(const TimePoints::TimePoint& timePoint, const TimePoints::Rate& rate,
                              const TimePoints::Duration& delta)
         : timePoint(timePoint), rate(rate), delta(delta)
-    {
-    }
+    {}
 
     constexpr const TimePoints::TimePoint& TimePoint() const { return timePoint; }
     constexpr void TimePoint(const TimePoints::TimePoint& value) { timePoint = value; }

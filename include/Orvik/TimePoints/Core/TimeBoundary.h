@@ -12,10 +12,8 @@ namespace Orvik::TimePoints {
 class TimeBoundary {
 public:
     constexpr TimeBoundary() = default;
-    constexpr TimeBoundary(const TimePoints::TimePoint& timePoint, bool isMoving)
-        : timePoint(timePoint), isMoving(isMoving)
-    {
-    }
+    constexpr TimeBoundary(const TimePoints::TimePoint& timePoint, bool isMoving) : timePoint(timePoint), isMoving(isMoving)
+    {}
 
     /// The one unset boundary, a compile-time constant: usable during static initialisation.
     static constexpr const TimeBoundary& Empty();
@@ -40,9 +38,6 @@ namespace detail {
 inline constexpr TimeBoundary kEmptyTimeBoundary{TimePoint::Empty(), false};
 }  // namespace detail
 
-constexpr const TimeBoundary& TimeBoundary::Empty()
-{
-    return detail::kEmptyTimeBoundary;
-}
+constexpr const TimeBoundary& TimeBoundary::Empty() { return detail::kEmptyTimeBoundary; }
 
 }  // namespace Orvik::TimePoints

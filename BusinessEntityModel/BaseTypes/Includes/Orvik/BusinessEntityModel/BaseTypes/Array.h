@@ -132,10 +132,7 @@ public:
     }
 
     /// Destroys the element at `index` and puts `element` in its place.
-    void Replace(int index, std::unique_ptr<T>&& element)
-    {
-        collection[Checked("Replace", index)] = std::move(element);
-    }
+    void Replace(int index, std::unique_ptr<T>&& element) { collection[Checked("Replace", index)] = std::move(element); }
 
 private:
     template <typename U>
@@ -148,9 +145,8 @@ private:
     size_t Checked(const char* operation, int index, size_t slack = 0) const
     {
         if (index < 0 || static_cast<size_t>(index) >= collection.size() + slack)
-            throw std::out_of_range(std::string(detail::kArrayIndexPrefix) + operation + ": index "
-                                    + std::to_string(index) + " out of range for size "
-                                    + std::to_string(collection.size()));
+            throw std::out_of_range(std::string(detail::kArrayIndexPrefix) + operation + ": index " + std::to_string(index)
+                                    + " out of range for size " + std::to_string(collection.size()));
         return static_cast<size_t>(index);
     }
 

@@ -26,9 +26,18 @@ public:
 
     /// `text` followed by `suffix` (numbers in decimal).
     static FullyQualifiedName Concat(const std::string& text, char suffix) { return FullyQualifiedName(text + suffix); }
-    static FullyQualifiedName Concat(const std::string& text, const std::string& suffix) { return FullyQualifiedName(text + suffix); }
-    static FullyQualifiedName Concat(const std::string& text, int suffix) { return FullyQualifiedName(text + std::to_string(suffix)); }
-    static FullyQualifiedName Concat(const std::string& text, uint32_t suffix) { return FullyQualifiedName(text + std::to_string(suffix)); }
+    static FullyQualifiedName Concat(const std::string& text, const std::string& suffix)
+    {
+        return FullyQualifiedName(text + suffix);
+    }
+    static FullyQualifiedName Concat(const std::string& text, int suffix)
+    {
+        return FullyQualifiedName(text + std::to_string(suffix));
+    }
+    static FullyQualifiedName Concat(const std::string& text, uint32_t suffix)
+    {
+        return FullyQualifiedName(text + std::to_string(suffix));
+    }
 
     /// `first`, the separator, then `last` (numbers in decimal): Combine("orvik", '.', "pelkoperator").
     static FullyQualifiedName Combine(const std::string& first, char separator, const std::string& last)

@@ -35,8 +35,8 @@ public:
         const uint64_t low = (engine() & 0x3FFFFFFFFFFFFFFFull) | 0x8000000000000000ull;
         std::ostringstream text;
         text << std::hex << std::setfill('0') << std::setw(8) << (high >> 32) << '-' << std::setw(4)
-             << ((high >> 16) & 0xFFFF) << '-' << std::setw(4) << (high & 0xFFFF) << '-' << std::setw(4)
-             << (low >> 48) << '-' << std::setw(12) << (low & 0xFFFFFFFFFFFFull);
+             << ((high >> 16) & 0xFFFF) << '-' << std::setw(4) << (high & 0xFFFF) << '-' << std::setw(4) << (low >> 48)
+             << '-' << std::setw(12) << (low & 0xFFFFFFFFFFFFull);
         return Identifier(text.str());
     }
 

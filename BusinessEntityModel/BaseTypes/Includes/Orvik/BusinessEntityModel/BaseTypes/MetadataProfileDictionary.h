@@ -13,7 +13,8 @@ namespace Orvik::BusinessEntityModel::BaseTypes {
 
 namespace detail {
 // Followed by the name that was not found.
-inline constexpr char kProfileNotFound[] = "Orvik::BusinessEntityModel::BaseTypes::MetadataProfileDictionary::At: no profile named ";
+inline constexpr char kProfileNotFound[] =
+    "Orvik::BusinessEntityModel::BaseTypes::MetadataProfileDictionary::At: no profile named ";
 inline constexpr char kNullProfile[] = "Orvik::BusinessEntityModel::BaseTypes::MetadataProfileDictionary::Set: null profile";
 }  // namespace detail
 

@@ -11,9 +11,8 @@ namespace Orvik::BusinessEntityModel::BaseTypes {
 /// A sorted vector of shared pointers, ordered and compared by their pointees, never by address.
 /// Copying the vector shares the pointees. Null pointers must not be stored.
 template <typename T>
-class SortedVectorSharedPointer
-    : public SortedVectorBase<std::shared_ptr<T>, CompareLessPointer<std::shared_ptr<T>>,
-                              CompareEqualPointer<std::shared_ptr<T>>> {
+class SortedVectorSharedPointer : public SortedVectorBase<std::shared_ptr<T>, CompareLessPointer<std::shared_ptr<T>>,
+                                                          CompareEqualPointer<std::shared_ptr<T>>> {
 public:
     SortedVectorSharedPointer() = default;
     SortedVectorSharedPointer(const SortedVectorSharedPointer&) = default;

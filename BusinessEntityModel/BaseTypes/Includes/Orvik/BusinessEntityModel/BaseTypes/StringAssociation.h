@@ -31,17 +31,15 @@ template <typename T>
 class StringAssociation {
 public:
     using ItemToStringMap = std::map<const T, const std::string>;
-    using StringToItemMap = std::map<const std::string*, const T,
-                                     std::function<bool(const std::string*, const std::string*)>>;
+    using StringToItemMap =
+        std::map<const std::string*, const T, std::function<bool(const std::string*, const std::string*)>>;
 
     StringAssociation(std::initializer_list<std::pair<const T, const std::string>> items)
         : StringAssociation(items, T(), false)
-    {
-    }
+    {}
     StringAssociation(std::initializer_list<std::pair<const T, const std::string>> items, const T& fallback)
         : StringAssociation(items, fallback, true)
-    {
-    }
+    {}
     StringAssociation(const StringAssociation&) = delete;
     StringAssociation& operator=(const StringAssociation&) = delete;
     ~StringAssociation() = default;

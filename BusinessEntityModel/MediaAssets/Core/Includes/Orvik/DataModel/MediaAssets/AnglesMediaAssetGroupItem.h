@@ -18,8 +18,7 @@ public:
     /// Shares the asset with `asset`.
     AnglesMediaAssetGroupItem(const Utf8String& name, const MediaAssetReference& asset)
         : MediaAssetGroupItem(asset), name(name)
-    {
-    }
+    {}
 
     bool operator==(const MediaAssetGroupItem& other) const override;
     bool operator==(const AnglesMediaAssetGroupItem& other) const;

@@ -16,8 +16,7 @@ public:
     TimeCodeJump() = default;
     TimeCodeJump(const MediaAssets::TimePoint& timePoint, const TimeCodeString& timeCode, int64_t duration)
         : timePoint_(timePoint), timeCode_(timeCode), duration_(duration)
-    {
-    }
+    {}
 
     const MediaAssets::TimePoint& TimePoint() const { return timePoint_; }
     void TimePoint(const MediaAssets::TimePoint& value) { timePoint_ = value; }

@@ -20,8 +20,7 @@ public:
     ZanLocation() : Location(Location::ZanLocation) {}
     ZanLocation(const ZanServerId& serverId, std::string sequenceId)
         : Location(Location::ZanLocation), serverId(serverId), sequenceId(std::move(sequenceId))
-    {
-    }
+    {}
     ZanLocation(const ZanLocation& other) = default;
     ZanLocation(ZanLocation&& other) noexcept = default;
     ZanLocation& operator=(const ZanLocation& other) = default;

@@ -6,8 +6,7 @@ namespace Orvik::DataModel::MediaAssets {
 
 AnglesPelkOperatorMetadataProfile::AnglesPelkOperatorMetadataProfile(const MediaAssets::PelkId& id)
     : serverId(id.ServerId()), page(id.Page()), bank(id.Bank()), clip(id.Row())
-{
-}
+{}
 
 MediaAssets::FullyQualifiedName AnglesPelkOperatorMetadataProfile::StaticFullyQualifiedName()
 {

@@ -4,10 +4,7 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
-bool Annotation::operator==(const Annotation& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool Annotation::operator==(const Annotation& other) const { return detail::EqualInOrder(*this, other); }
 
 Annotation Annotation::Clone() const
 {

@@ -4,10 +4,7 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
-bool AudioEssence::operator==(const Essence& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool AudioEssence::operator==(const Essence& other) const { return detail::EqualInOrder(*this, other); }
 
 std::unique_ptr<Essence> AudioEssence::Clone() const
 {

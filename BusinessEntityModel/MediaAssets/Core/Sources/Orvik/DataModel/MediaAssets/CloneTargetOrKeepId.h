@@ -12,8 +12,8 @@ namespace Orvik::DataModel::MediaAssets::detail {
 /// holds only an identifier, a reference to that identifier alone. Whatever the clone throws
 /// passes on.
 template <typename T>
-BusinessEntityModel::BaseTypes::SharedReference<T> CloneTargetOrKeepId(
-    const BusinessEntityModel::BaseTypes::SharedReference<T>& reference)
+BusinessEntityModel::BaseTypes::SharedReference<T>
+CloneTargetOrKeepId(const BusinessEntityModel::BaseTypes::SharedReference<T>& reference)
 {
     if (const auto target = reference.Pointer())
         return std::make_shared<T>(target->Clone());

@@ -36,9 +36,6 @@ URI DaxContentTrackLocation::Uri() const
     return URI(kScheme + daxServerId.Value() + "/" + daxPartitionId.Value() + "/" + daxContentTrackId.Value());
 }
 
-bool DaxContentTrackLocation::operator==(const Location& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool DaxContentTrackLocation::operator==(const Location& other) const { return detail::EqualInOrder(*this, other); }
 
 }  // namespace Orvik::DataModel::MediaAssets

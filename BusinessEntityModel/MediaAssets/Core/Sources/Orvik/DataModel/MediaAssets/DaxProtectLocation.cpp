@@ -4,9 +4,6 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
-bool DaxProtectLocation::operator==(const Location& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool DaxProtectLocation::operator==(const Location& other) const { return detail::EqualInOrder(*this, other); }
 
 }  // namespace Orvik::DataModel::MediaAssets

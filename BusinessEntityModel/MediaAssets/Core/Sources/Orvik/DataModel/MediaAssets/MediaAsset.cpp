@@ -16,15 +16,9 @@ constexpr char kNullAnnotation[] = "Orvik::DataModel::MediaAssets::MediaAsset::C
 
 }  // namespace
 
-bool MediaAsset::operator==(const MediaAsset& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool MediaAsset::operator==(const MediaAsset& other) const { return detail::EqualInOrder(*this, other); }
 
-bool MediaAsset::HasPelkOperatorMetadata() const
-{
-    return metadata.Contains<PelkOperatorMetadataProfile>();
-}
+bool MediaAsset::HasPelkOperatorMetadata() const { return metadata.Contains<PelkOperatorMetadataProfile>(); }
 
 PelkOperatorMetadataProfile& MediaAsset::PelkOperatorMetadata()
 {

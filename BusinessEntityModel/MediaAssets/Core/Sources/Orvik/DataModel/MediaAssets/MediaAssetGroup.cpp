@@ -32,15 +32,9 @@ const std::shared_ptr<MediaAssetGroupItem>& MediaAssetGroup::ItemReference(const
     return Found("ItemReference", assetId);
 }
 
-MediaAssetGroupItem& MediaAssetGroup::Item(const MediaAssetGroupId& assetId) const
-{
-    return *Found("Item", assetId);
-}
+MediaAssetGroupItem& MediaAssetGroup::Item(const MediaAssetGroupId& assetId) const { return *Found("Item", assetId); }
 
-bool MediaAssetGroup::operator==(const MediaAssetGroup& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool MediaAssetGroup::operator==(const MediaAssetGroup& other) const { return detail::EqualInOrder(*this, other); }
 
 bool MediaAssetGroup::AreItemsEqual(const MediaAssetGroup& other) const
 {
@@ -49,7 +43,7 @@ bool MediaAssetGroup::AreItemsEqual(const MediaAssetGroup& other) const
 }
 
 const std::shared_ptr<MediaAssetGroupItem>& MediaAssetGroup::Found(const char* operation,
-                                                                    const MediaAssetGroupId& assetId) const
+                                                                   const MediaAssetGroupId& assetId) const
 {
     const auto found = Find(assetId);
     if (found == items.end())

@@ -9,15 +9,9 @@ namespace Orvik::DataModel::MediaAssets {
 
 MediaResource::MediaResource() : MediaResource(Identifier::Empty()) {}
 
-MediaResource::MediaResource(const MediaResourceId& id)
-    : id(id), metadata(std::make_shared<MetadataProfileDictionary>())
-{
-}
+MediaResource::MediaResource(const MediaResourceId& id) : id(id), metadata(std::make_shared<MetadataProfileDictionary>()) {}
 
-bool MediaResource::operator==(const MediaResource& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool MediaResource::operator==(const MediaResource& other) const { return detail::EqualInOrder(*this, other); }
 
 MediaResource MediaResource::Clone() const
 {
@@ -35,14 +29,8 @@ MediaResource MediaResource::Clone() const
     return copy;
 }
 
-void MediaResource::Adopt(std::unique_ptr<Stream>&& stream)
-{
-    streams.emplace_back(std::move(stream));
-}
+void MediaResource::Adopt(std::unique_ptr<Stream>&& stream) { streams.emplace_back(std::move(stream)); }
 
-void MediaResource::Add(const MediaResourceId& streamId)
-{
-    streams.emplace_back(streamId);
-}
+void MediaResource::Add(const MediaResourceId& streamId) { streams.emplace_back(streamId); }
 
 }  // namespace Orvik::DataModel::MediaAssets

@@ -31,8 +31,7 @@ Utf8String FirstCharacters(const Utf8String& text, size_t count)
 
 PelkOperatorMetadataProfile::PelkOperatorMetadataProfile(const MediaAssets::PelkId& id)
     : serverId(id.ServerId()), page(id.Page()), bank(id.Bank()), clip(id.Row()), camera(id.Camera())
-{
-}
+{}
 
 MediaAssets::FullyQualifiedName PelkOperatorMetadataProfile::StaticFullyQualifiedName()
 {
@@ -47,10 +46,26 @@ MediaAssets::FullyQualifiedName PelkOperatorMetadataProfile::FullyQualifiedName(
 
 const std::vector<std::string>& PelkOperatorMetadataProfile::StaticKeys()
 {
-    static const std::vector<std::string> keys{
-        "serverId", "page", "bank", "clip", "camera", "umId", "varId", "rating", "archiveStatus",
-        "userTimecodeType", "primaryTimecode", "userTimecode", "todTimecode", "icon", "color",
-        "fillAndKeyType", "fillAndKeyMediaAssetId", "keywords", "userProtected", "pelkUIProtected"};
+    static const std::vector<std::string> keys{"serverId",
+                                               "page",
+                                               "bank",
+                                               "clip",
+                                               "camera",
+                                               "umId",
+                                               "varId",
+                                               "rating",
+                                               "archiveStatus",
+                                               "userTimecodeType",
+                                               "primaryTimecode",
+                                               "userTimecode",
+                                               "todTimecode",
+                                               "icon",
+                                               "color",
+                                               "fillAndKeyType",
+                                               "fillAndKeyMediaAssetId",
+                                               "keywords",
+                                               "userProtected",
+                                               "pelkUIProtected"};
     return keys;
 }
 
@@ -65,10 +80,7 @@ std::shared_ptr<MetadataProfile> PelkOperatorMetadataProfile::Clone() const
     return std::shared_ptr<MetadataProfile>(new PelkOperatorMetadataProfile(*this));
 }
 
-bool PelkOperatorMetadataProfile::Equals(const MetadataProfile& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool PelkOperatorMetadataProfile::Equals(const MetadataProfile& other) const { return detail::EqualInOrder(*this, other); }
 
 MediaAssets::PelkId PelkOperatorMetadataProfile::PelkId() const
 {

@@ -13,10 +13,7 @@ Stream::Stream() : Stream(Identifier::Empty()) {}
 
 Stream::Stream(const StreamId& id) : metadata(std::make_shared<MetadataProfileDictionary>()), streamId(id) {}
 
-Stream::Stream(const Stream& other) : Stream(other.Clone())
-{
-    ObjectId(other.ObjectId());
-}
+Stream::Stream(const Stream& other) : Stream(other.Clone()) { ObjectId(other.ObjectId()); }
 
 Stream& Stream::operator=(const Stream& other)
 {
@@ -25,10 +22,7 @@ Stream& Stream::operator=(const Stream& other)
     return *this;
 }
 
-bool Stream::operator==(const Stream& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool Stream::operator==(const Stream& other) const { return detail::EqualInOrder(*this, other); }
 
 Stream Stream::Clone() const
 {

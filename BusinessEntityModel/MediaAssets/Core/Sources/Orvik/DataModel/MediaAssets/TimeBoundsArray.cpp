@@ -7,10 +7,7 @@
 namespace Orvik::DataModel::MediaAssets {
 namespace {
 
-bool IsEmpty(const TimeBoundary& boundary)
-{
-    return boundary == TimeBoundary::Empty();
-}
+bool IsEmpty(const TimeBoundary& boundary) { return boundary == TimeBoundary::Empty(); }
 
 /// Whether `point` lies in the half-open stretch [in, out) of `bounds`.
 bool Holds(const TimeBounds& bounds, const TimePoint& point)
@@ -61,7 +58,8 @@ bool TimeBoundsArray::IsInOutOfTimeBounds() const
     if (IsEmpty(inBoundary))
         return false;
     const TimePoint& point = inBoundary.TimePoint();
-    return std::none_of(elements.begin(), elements.end(), [&point](const TimeBounds& bounds) { return Holds(bounds, point); });
+    return std::none_of(elements.begin(), elements.end(),
+                        [&point](const TimeBounds& bounds) { return Holds(bounds, point); });
 }
 
 bool TimeBoundsArray::IsOutOutOfTimeBounds() const
@@ -69,18 +67,15 @@ bool TimeBoundsArray::IsOutOutOfTimeBounds() const
     if (IsEmpty(outBoundary))
         return false;
     const TimePoint& point = outBoundary.TimePoint();
-    return std::none_of(elements.rbegin(), elements.rend(), [&point](const TimeBounds& bounds) { return Holds(bounds, point); });
+    return std::none_of(elements.rbegin(), elements.rend(),
+                        [&point](const TimeBounds& bounds) { return Holds(bounds, point); });
 }
 
 bool TimeBoundsArray::IsValid() const
 {
-    return !HasOverlappingTimeBounds() && IsInValid() && IsOutValid() && !IsInOutOfTimeBounds()
-        && !IsOutOutOfTimeBounds();
+    return !HasOverlappingTimeBounds() && IsInValid() && IsOutValid() && !IsInOutOfTimeBounds() && !IsOutOutOfTimeBounds();
 }
 
-bool TimeBoundsArray::operator==(const TimeBoundsArray& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool TimeBoundsArray::operator==(const TimeBoundsArray& other) const { return detail::EqualInOrder(*this, other); }
 
 }  // namespace Orvik::DataModel::MediaAssets

@@ -25,9 +25,6 @@ void TimeCodeString::Set(const std::string& text)
     value_ = text;
 }
 
-bool TimeCodeString::IsStringFormatValid(const std::string& text) const
-{
-    return std::regex_search(text, Pattern());
-}
+bool TimeCodeString::IsStringFormatValid(const std::string& text) const { return std::regex_search(text, Pattern()); }
 
 }  // namespace Orvik::DataModel::MediaAssets

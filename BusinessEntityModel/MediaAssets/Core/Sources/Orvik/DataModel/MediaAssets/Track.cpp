@@ -6,10 +6,7 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
-bool Track::operator==(const Track& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool Track::operator==(const Track& other) const { return detail::EqualInOrder(*this, other); }
 
 Track Track::Clone() const
 {

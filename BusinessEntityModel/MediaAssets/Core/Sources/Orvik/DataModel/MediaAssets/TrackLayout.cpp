@@ -4,10 +4,7 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
-bool TrackLayout::operator==(const TrackLayout& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool TrackLayout::operator==(const TrackLayout& other) const { return detail::EqualInOrder(*this, other); }
 
 TrackLayout TrackLayout::Clone() const
 {

@@ -4,10 +4,7 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
-bool TrackLayoutItem::operator==(const TrackLayoutItem& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool TrackLayoutItem::operator==(const TrackLayoutItem& other) const { return detail::EqualInOrder(*this, other); }
 
 TrackLayoutItem TrackLayoutItem::Clone() const
 {

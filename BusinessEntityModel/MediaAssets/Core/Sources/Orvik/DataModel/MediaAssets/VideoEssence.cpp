@@ -4,10 +4,7 @@
 
 namespace Orvik::DataModel::MediaAssets {
 
-bool VideoEssence::operator==(const Essence& other) const
-{
-    return detail::EqualInOrder(*this, other);
-}
+bool VideoEssence::operator==(const Essence& other) const { return detail::EqualInOrder(*this, other); }
 
 std::unique_ptr<Essence> VideoEssence::Clone() const
 {

@@ -57,8 +57,7 @@ public:
     constexpr PelkId(const ZanServerId& serverId, int page, int bank, int row, char camera)
         : serverId(serverId), page(static_cast<uint8_t>(page)), bank(static_cast<uint8_t>(bank)),
           row(static_cast<uint8_t>(row)), camera(camera)
-    {
-    }
+    {}
     /// Parsed strictly, with FromUri's exceptions; use TryParse() for text that may be malformed.
     /// Explicit: it may throw, which should not happen behind a conversion.
     explicit PelkId(const std::string& text) : PelkId(FromUri(text)) {}
@@ -121,9 +120,6 @@ namespace detail {
 inline constexpr PelkId kEmptyPelkId{};
 }  // namespace detail
 
-constexpr const PelkId& PelkId::Empty()
-{
-    return detail::kEmptyPelkId;
-}
+constexpr const PelkId& PelkId::Empty() { return detail::kEmptyPelkId; }
 
 }  // namespace Orvik::DataModel::MediaAssets

@@ -44,9 +44,6 @@ namespace detail {
 inline constexpr ZanServerId kEmptyZanServerId{};
 }  // namespace detail
 
-constexpr const ZanServerId& ZanServerId::Empty()
-{
-    return detail::kEmptyZanServerId;
-}
+constexpr const ZanServerId& ZanServerId::Empty() { return detail::kEmptyZanServerId; }
 
 }  // namespace Orvik::DataModel::MediaAssets

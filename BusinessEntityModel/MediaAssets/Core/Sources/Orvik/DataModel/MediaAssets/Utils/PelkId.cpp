@@ -23,15 +23,9 @@ bool ReadNumber(const std::string& text, int& number)
     return true;
 }
 
-uint8_t DigitOf(char character)
-{
-    return static_cast<uint8_t>(character - '0');
-}
+uint8_t DigitOf(char character) { return static_cast<uint8_t>(character - '0'); }
 
-bool IsDigit(char character, char lowest = '0')
-{
-    return character >= lowest && character <= '9';
-}
+bool IsDigit(char character, char lowest = '0') { return character >= lowest && character <= '9'; }
 
 }  // namespace
 
@@ -55,10 +49,7 @@ std::string PelkId::ToShortString() const
     return std::string(text);
 }
 
-std::string PelkId::ToString() const
-{
-    return ToShortString() + "/" + std::to_string(serverId.SerialNumber());
-}
+std::string PelkId::ToString() const { return ToShortString() + "/" + std::to_string(serverId.SerialNumber()); }
 
 PelkId PelkId::FromUri(const std::string& text)
 {
