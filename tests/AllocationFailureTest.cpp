@@ -191,6 +191,12 @@ TEST(AllocationFailure, FailedSortedInsertsLeaveTheVectorAsItWas)
         FailEachAllocationInTurn([&] { stream.Locations().Add(FileLocation()); },
                                  [&](uint64_t) { ASSERT_TRUE(stream == expectedStream); });
 
+        std::vector<std::shared_ptr<Track>> tracks(asset.Tracks().begin(), asset.Tracks().end());
+        tracks.push_back(std::make_shared<Track>(TrackId("another track")));
+        const auto before = asset.Tracks().Values();
+        FailEachAllocationInTurn([&] { asset.Tracks().Values(tracks); },
+                                 [&](uint64_t) { ASSERT_EQ(asset.Tracks().Values(), before); });
+
         TimeBoundsArray bounds = objects.TimeBoundsArray();
         const TimeBoundsArray expectedBounds = bounds;
         const TimeBounds added(TimeBoundary(TimePoint(-5), false), TimeBoundary(TimePoint(-1), false));

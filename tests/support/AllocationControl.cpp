@@ -36,6 +36,19 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
+// The failing allocation of a nothrow new answers null, as a real one does; the caller may then
+// go on without it (a stable sort without its buffer), so that failure does not count as thrown.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    if (++allocations == failingAllocation) {
+        failingAllocation = 0;
+        return nullptr;
+    }
+    return std::malloc(size == 0 ? 1 : size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept { return ::operator new(size, tag); }
+
 void operator delete(void* memory) noexcept { std::free(memory); }
 
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

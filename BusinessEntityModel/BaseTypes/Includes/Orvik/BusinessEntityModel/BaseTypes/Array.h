@@ -28,6 +28,9 @@ inline constexpr char kArrayIndexPrefix[] = "Orvik::BusinessEntityModel::BaseTyp
 /// At(), Insert(), Erase() and Replace() throw std::out_of_range for an index outside the array
 /// (Insert also accepts Size(), meaning "at the end"), leaving it unchanged; operator[] does not
 /// check.
+///
+/// Failure guarantee: Add(), Insert(), Copy() and Adopt() are strong: after a throw the array is as
+/// it was.
 template <typename T>
 class Array {
 public:

@@ -24,6 +24,9 @@ inline constexpr char kNullProfile[] = "Orvik::BusinessEntityModel::BaseTypes::M
 /// A plain copy shares the profiles with its source; DeepCopy() and Clone() copy them. Two
 /// dictionaries are equal when they have the same names in order and each left profile's Equals()
 /// accepts the right one: profiles compare by value, never by address.
+///
+/// Failure guarantee: Set() and Clone() are strong. DeepCopy() is basic: it empties this dictionary
+/// first, so a failing profile Clone() leaves it empty and the source unchanged.
 class MetadataProfileDictionary {
 public:
     using map = std::map<BaseTypes::FullyQualifiedName, std::shared_ptr<MetadataProfile>>;

@@ -25,6 +25,9 @@ inline constexpr char kNullPointer[] = "null pointer";
 ///
 /// In sorted vectors (CompareLess, CompareEqual) references are ordered and compared by their
 /// identifiers alone.
+///
+/// Failure guarantee: every operation is strong; only the identifier copies can fail
+/// (std::bad_alloc).
 template <typename T>
 class SharedReference {
 public:

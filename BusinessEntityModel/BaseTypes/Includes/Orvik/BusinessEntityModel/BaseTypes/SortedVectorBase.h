@@ -32,6 +32,10 @@ inline constexpr char kIndexOutOfRange[] = "Orvik::DataModel::MediaAssets::Sorte
 /// Only the leaves (SortedVector, SortedVectorSharedPointer, SortedVectorWeakPointer, and
 /// TimeBoundsArray of the model) are instantiated; they are never deleted through this base.
 /// Writing through a non-const iterator or reference must not change an element's key.
+///
+/// Failure guarantee: Insert(), Replace() and Values() are strong: after a throw (std::bad_alloc or
+/// a refusal) the vector is as it was. Insert(values) is basic: the values inserted before the
+/// failing one stay.
 template <typename T, typename Less, typename Equal, typename Alloc = std::allocator<T>>
 class SortedVectorBase {
 public:
@@ -151,8 +155,9 @@ public:
     /// relative order, and duplicates are not looked for.
     void Values(const std::vector<T>& values)
     {
-        elements.assign(values.begin(), values.end());
-        Sort();
+        Elements copies(values.begin(), values.end());
+        elements.swap(copies);
+        Sort();  // cannot fail: without a spare buffer the stable sort works in place
     }
 
 protected:

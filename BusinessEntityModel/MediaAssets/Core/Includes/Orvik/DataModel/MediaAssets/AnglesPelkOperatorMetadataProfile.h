@@ -16,6 +16,8 @@ namespace Orvik::DataModel::MediaAssets {
 /// compares server serial number, page, bank and clip, and answers false for a profile of another
 /// name or another class; objectId is not compared. Clone() copies every field, objectId
 /// included. A default profile has page, bank and clip 0 and no server.
+///
+/// Failure guarantee: Clone() and setters are strong; copy assignment is member-wise and basic.
 class AnglesPelkOperatorMetadataProfile : public PersistentObject, public MetadataProfile {
 public:
     AnglesPelkOperatorMetadataProfile() = default;

@@ -15,6 +15,8 @@ namespace Orvik::DataModel::MediaAssets {
 /// is not compared. A plain copy shares the metadata profiles; Clone() makes an annotation with
 /// objectId -1 and its own copies of the profiles. An annotation always has a type: there is no
 /// default constructor.
+///
+/// Failure guarantee: Clone() and setters are strong; copy assignment is member-wise and basic.
 class Annotation : public PersistentObject {
 public:
     /// Explicit: a kind alone is not an annotation.

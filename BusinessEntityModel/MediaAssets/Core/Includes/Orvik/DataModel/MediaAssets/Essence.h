@@ -27,6 +27,10 @@ namespace Orvik::DataModel::MediaAssets {
 ///
 /// The type converts to the texts "Audio", "Data" and "Video"; an unknown text or number gives
 /// Audio (with `failed` set by the two-argument form).
+///
+/// Failure guarantee: Clone() is basic for the source: a failure after the metadata step leaves
+/// this essence's (shared) dictionary empty, as a completed Clone() does; nothing else changes and
+/// no copy is returned. Setters and track-channel inserts are strong.
 class Essence : public PersistentObject {
 public:
     enum Type : int32_t { Audio = 0, Data = 1, Video = 2 };

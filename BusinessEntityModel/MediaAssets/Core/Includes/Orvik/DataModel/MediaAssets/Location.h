@@ -19,6 +19,8 @@ namespace Orvik::DataModel::MediaAssets {
 /// The type converts to the texts "FileLocation", "DaxContentTrackLocation", "DaxProtectLocation"
 /// and "ZanLocation"; an unknown text or number gives FileLocation (with `failed` set by the
 /// two-argument form).
+///
+/// Failure guarantee: Clone() and every setter are strong.
 class Location {
 public:
     enum Type : int32_t { FileLocation = 0, DaxContentTrackLocation = 1, DaxProtectLocation = 2, ZanLocation = 3 };

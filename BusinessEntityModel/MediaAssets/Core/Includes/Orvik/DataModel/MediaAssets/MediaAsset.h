@@ -40,6 +40,12 @@ using MediaAssetReference = SharedReference<MediaAsset>;
 /// objectId is not compared. Comparing layouts whose tracks are gone throws std::runtime_error
 /// "Orvik::DataModel::MediaAssets::CompareEqualWeakPointer: weak pointer object is expired".
 /// Assets are ordered by id.
+///
+/// Failure guarantee: Clone() and the copy constructor give the strong guarantee for the new object
+/// (nothing is returned), and the source keeps everything except the metadata dictionaries of the
+/// essences already cloned, which are left empty as Essence::Clone() documents. Setters and
+/// collection inserts are strong; copy assignment is member-wise and basic (the members before the
+/// failing one hold the new values).
 class MediaAsset : public PersistentObject {
 public:
     MediaAsset() : MediaAsset(Identifier::Empty()) {}

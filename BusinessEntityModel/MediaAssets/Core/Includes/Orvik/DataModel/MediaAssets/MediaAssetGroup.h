@@ -24,6 +24,9 @@ using MediaAssetGroupItemArray = std::vector<std::shared_ptr<MediaAssetGroupItem
 /// Two groups are equal when metadata (by value), id, type, name and the items are; items are
 /// compared by count and then pairwise in order through their virtual operator== (a null item is
 /// never equal). objectId is not compared.
+///
+/// Failure guarantee: the copy constructor and setters are strong; copy assignment is member-wise and
+/// basic.
 class MediaAssetGroup : public PersistentObject {
 public:
     MediaAssetGroup(const MediaAssetGroupId& id, const Utf8String& type) : id(id), type(type) {}

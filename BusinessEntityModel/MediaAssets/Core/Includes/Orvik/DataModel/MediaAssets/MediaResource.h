@@ -37,6 +37,12 @@ using MediaResourceReferenceVector = SortedVector<MediaResourceReference>;
 /// pointers nor the streams are looked at), time bounds, dates and metadata (by value) are;
 /// objectId is not compared. Resources are ordered by id. Adopt() and Add() do not look for a
 /// stream id that is already referenced.
+///
+/// Failure guarantee: Clone() and the copy constructor give the strong guarantee for the new object
+/// (nothing is returned), and the source keeps everything except the metadata dictionaries of the
+/// essences already cloned, which are left empty as Essence::Clone() documents. Setters and
+/// collection inserts are strong; copy assignment is member-wise and basic (the members before the
+/// failing one hold the new values).
 class MediaResource : public PersistentObject {
 public:
     MediaResource();

@@ -37,6 +37,9 @@ struct ComparisonOrder;
 /// Keywords sit in slots by index; slots that were never set hold empty texts. The setter takes
 /// any index below 2^31 and any length; the server's own limits (Zan3MaxKeyword slots of at most
 /// Zan3MaxKeywordLength characters) are applied only by Zan3Keywords().
+///
+/// Failure guarantee: Clone(), the keyword setters (including the split of a text) and the other
+/// setters are strong; copy assignment is member-wise and basic.
 class PelkOperatorMetadataProfile : public PersistentObject, public MetadataProfile {
 public:
     static constexpr int32_t Zan3MaxKeyword = 5;

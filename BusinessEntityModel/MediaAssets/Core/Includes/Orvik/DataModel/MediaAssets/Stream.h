@@ -31,6 +31,11 @@ using StreamReference = SharedReference<Stream>;
 /// and the locations (position by position, through their virtual operator==) are; objectId is
 /// not compared. If a Clone() or a copy throws, nothing is returned; the only lasting change to
 /// the source is what the completed essence clones did to its essences' metadata.
+///
+/// Failure guarantee: Clone(), the copy constructor and copy assignment are strong for the target
+/// (copy assignment builds the copy first); the source keeps everything except the metadata
+/// dictionaries of the essences already cloned, which are left empty as Essence::Clone() documents.
+/// Setters and the essence and location inserts are strong.
 class Stream : public PersistentObject {
 public:
     Stream();

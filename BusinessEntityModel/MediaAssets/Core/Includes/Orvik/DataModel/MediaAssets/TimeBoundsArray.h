@@ -28,6 +28,9 @@ struct TimeBoundsCompareEqual {
 /// in the collection", so two stretches that differ only in a moving flag are both kept. The
 /// validity questions use half-open stretches: a boundary lies inside [in, out) of a stretch.
 /// Equal when both boundaries, the count and every stretch (all four fields) are equal.
+///
+/// Failure guarantee: every insert is strong, as in the sorted vector it is; copy assignment is
+/// member-wise and basic.
 class TimeBoundsArray : public SortedVectorBase<TimeBounds, TimeBoundsCompareLess, TimeBoundsCompareEqual> {
 public:
     TimeBoundsArray() = default;

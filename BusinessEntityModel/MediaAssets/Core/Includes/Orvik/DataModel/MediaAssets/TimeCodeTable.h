@@ -12,6 +12,8 @@ namespace Orvik::DataModel::MediaAssets {
 ///
 /// Tables are ordered by name alone; two are equal when name, standard, kind and the jumps (by
 /// value, in order) are. A copy shares the jump objects. Null jumps must not be stored.
+///
+/// Failure guarantee: setters are strong; copy assignment is member-wise and basic.
 class TimeCodeTable {
 public:
     TimeCodeTable() = default;

@@ -16,6 +16,12 @@ using TrackId = Identifier;
 /// compared, nor is objectId. A plain copy shares the channel objects (and through them the
 /// streams). Clone() makes a track with objectId -1, the same id and name, and a clone of each
 /// channel, so that every channel of the clone owns its own copy of its stream.
+///
+/// Failure guarantee: Clone() and the copy constructor give the strong guarantee for the new object
+/// (nothing is returned), and the source keeps everything except the metadata dictionaries of the
+/// essences already cloned, which are left empty as Essence::Clone() documents. Setters and
+/// collection inserts are strong; copy assignment is member-wise and basic (the members before the
+/// failing one hold the new values).
 class Track : public PersistentObject {
 public:
     using ChannelVector = std::vector<std::shared_ptr<TrackChannelToRemove>>;

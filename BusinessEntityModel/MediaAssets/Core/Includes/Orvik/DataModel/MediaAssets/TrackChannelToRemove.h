@@ -14,6 +14,10 @@ namespace Orvik::DataModel::MediaAssets {
 /// with the same id) when the reference holds one, and the stream id alone otherwise. Two
 /// channels are equal when the stream ids, essence numbers and channel numbers are; the streams
 /// themselves are not compared.
+///
+/// Failure guarantee: Clone() is strong for the new object; a failing stream clone leaves the
+/// source stream's cloned essences with empty metadata, as Essence::Clone() documents. Setters are
+/// strong.
 class TrackChannelToRemove {
 public:
     TrackChannelToRemove() = default;

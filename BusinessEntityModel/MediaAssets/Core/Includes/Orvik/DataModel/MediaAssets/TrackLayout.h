@@ -11,6 +11,9 @@ namespace Orvik::DataModel::MediaAssets {
 /// Layouts are ordered by id and equal when id, name and the items are (see TrackLayoutItem,
 /// including the expiry error). A copy, and Clone() too, keeps referring to the same track
 /// objects; a copy keeps objectId, Clone() gives the layout and its items objectId -1.
+///
+/// Failure guarantee: Clone(), the copy constructor and item inserts are strong; copy assignment is
+/// member-wise and basic.
 class TrackLayout : public PersistentObject {
 public:
     TrackLayout() : TrackLayout(Identifier::Empty()) {}

@@ -29,6 +29,10 @@ namespace Orvik::DataModel::MediaAssets {
 ///   keeping only a valid one in the identifier (the number read is reported through
 ///   `serialNumber`, 0 when reading failed). On false, `id` may already hold page, bank, row and
 ///   camera.
+///
+/// Failure guarantee: FromUri(), Parse-style constructors and ToString() are strong. TryParse() is
+/// basic, like its refusal: a std::bad_alloc from reading the serial number may leave page, bank,
+/// row and camera already set in `id`.
 class PelkId {
 public:
     static constexpr int MaxChannel = 12;

@@ -23,6 +23,9 @@ namespace Orvik::DataModel::MediaAssets::Json {
 /// Throws JsonError naming the JSON pointer of the offending value and what was expected; no
 /// object is returned then. Metadata profiles whose name has no codec are kept as
 /// RawMetadataProfile and written back as they were read.
+///
+/// Failure guarantee: strong. A lack of memory is std::bad_alloc, never JsonError; nothing half
+/// built escapes, and the thread keeps its grown parser for the next document.
 template <typename T>
 T FromJson(std::string_view document);
 

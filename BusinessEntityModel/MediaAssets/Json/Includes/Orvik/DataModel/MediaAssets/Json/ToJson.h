@@ -20,6 +20,10 @@ namespace Orvik::DataModel::MediaAssets::Json {
 /// Throws JsonError, naming the path of the value, for a metadata profile whose name has no codec
 /// (see MetadataProfileCodec.h), for text that is not valid UTF-8, and for a layout item showing
 /// a track that is not one of the asset's tracks. The stream overloads write nothing then.
+///
+/// Failure guarantee: strong; the object written is never changed. A lack of memory is
+/// std::bad_alloc, and the stream overloads write nothing then either; a failure of the stream
+/// itself is reported through the stream's state, as for any output to it.
 /// A MediaAssetGroup is written with its class (MediaAssetGroup or AnglesMediaAssetGroup).
 std::string ToJson(const MediaAsset& value, Layout layout = Layout::Compact);
 std::string ToJson(const MediaResource& value, Layout layout = Layout::Compact);
