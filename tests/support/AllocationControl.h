@@ -26,8 +26,8 @@ bool DisarmAllocationFailure();
 /// std::bad_alloc, `afterFailure(n)` runs with nothing armed, to check what the failed attempt
 /// left behind. Any other exception passes to the caller, and an operation that completes
 /// although its allocation threw (it swallowed std::bad_alloc) makes this throw
-/// std::logic_error. A failing nothrow new answers null, and the operation may go on without it. Returns the number of failures injected, which is the number of
-/// allocations the completed run made.
+/// std::logic_error. A failing nothrow new answers null, and the operation may go on without it. Returns the number of
+/// failures injected, which is the number of allocations the completed run made.
 template <typename Operation, typename AfterFailure>
 uint64_t FailEachAllocationInTurn(Operation operation, AfterFailure afterFailure)
 {
