@@ -249,13 +249,43 @@ void Read(Reader& r, value v, MetadataProfileDictionary& dictionary)
     });
 }
 
-void WriteMembers(Writer& w, const PelkOperatorMetadataProfile& profile)
+// The members that both operator profiles begin with: the clip they describe, kClipMembers of them.
+constexpr size_t kClipMembers = 5;
+
+template <typename Profile>
+void WriteClipMembers(Writer& w, const Profile& profile)
 {
     w.Int("objectId", profile.ObjectId());
     w.Int("serverId", profile.ServerId().SerialNumber());
     w.Int("page", profile.Page());
     w.Int("bank", profile.Bank());
     w.Int("clip", profile.Clip());
+}
+
+template <typename Profile>
+void ReadClipMember(Reader& r, size_t index, value member, Profile& profile)
+{
+    switch (index) {
+    case 0:
+        profile.ObjectId(r.Int64(member));
+        break;
+    case 1:
+        profile.ServerId(ZanServerId(r.Int32(member)));
+        break;
+    case 2:
+        profile.Page(r.Int32(member));
+        break;
+    case 3:
+        profile.Bank(r.Int32(member));
+        break;
+    default:
+        profile.Clip(r.Int32(member));
+    }
+}
+
+void WriteMembers(Writer& w, const PelkOperatorMetadataProfile& profile)
+{
+    WriteClipMembers(w, profile);
     w.String("camera", CameraText(profile.Camera()));
     w.String("umId", profile.UmId());
     w.String("varId", profile.VarId());
@@ -277,22 +307,9 @@ void WriteMembers(Writer& w, const PelkOperatorMetadataProfile& profile)
 void ReadMembers(Reader& r, Reader::Rest& rest, PelkOperatorMetadataProfile& profile)
 {
     r.ReadRest(rest, kPelkMembers, [&](size_t index, value member) {
+        if (index < kClipMembers)
+            return ReadClipMember(r, index, member, profile);
         switch (index) {
-        case 0:
-            profile.ObjectId(r.Int64(member));
-            break;
-        case 1:
-            profile.ServerId(ZanServerId(r.Int32(member)));
-            break;
-        case 2:
-            profile.Page(r.Int32(member));
-            break;
-        case 3:
-            profile.Bank(r.Int32(member));
-            break;
-        case 4:
-            profile.Clip(r.Int32(member));
-            break;
         case 5:
             profile.Camera(ReadCamera(r, member));
             break;
@@ -352,35 +369,11 @@ void ReadMembers(Reader& r, Reader::Rest& rest, PelkOperatorMetadataProfile& pro
     });
 }
 
-void WriteMembers(Writer& w, const AnglesPelkOperatorMetadataProfile& profile)
-{
-    w.Int("objectId", profile.ObjectId());
-    w.Int("serverId", profile.ServerId().SerialNumber());
-    w.Int("page", profile.Page());
-    w.Int("bank", profile.Bank());
-    w.Int("clip", profile.Clip());
-}
+void WriteMembers(Writer& w, const AnglesPelkOperatorMetadataProfile& profile) { WriteClipMembers(w, profile); }
 
 void ReadMembers(Reader& r, Reader::Rest& rest, AnglesPelkOperatorMetadataProfile& profile)
 {
-    r.ReadRest(rest, kAnglesMembers, [&](size_t index, value member) {
-        switch (index) {
-        case 0:
-            profile.ObjectId(r.Int64(member));
-            break;
-        case 1:
-            profile.ServerId(ZanServerId(r.Int32(member)));
-            break;
-        case 2:
-            profile.Page(r.Int32(member));
-            break;
-        case 3:
-            profile.Bank(r.Int32(member));
-            break;
-        default:
-            profile.Clip(r.Int32(member));
-        }
-    });
+    r.ReadRest(rest, kAnglesMembers, [&](size_t index, value member) { ReadClipMember(r, index, member, profile); });
 }
 
 }  // namespace detail
