@@ -52,6 +52,10 @@ if(PROJECT_IS_TOP_LEVEL)
         set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION "python")
         set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
             "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), python3 (>= ${Python3_VERSION_MAJOR}.${Python3_VERSION_MINOR}), python3 (<< ${Python3_VERSION_MAJOR}.${ORVIK_PYTHON_NEXT_MINOR})")
+        if(TARGET OrvikMediaAssetsJson)
+            string(APPEND CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+                ", liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+        endif()
         set(CPACK_COMPONENT_PYTHON_DESCRIPTION "In-memory data model of media assets: Python module orvik_media_assets")
     endif()
     include(CPack)
