@@ -25,7 +25,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const auto [read, timeCode] = parser.TryParse(text);
     Check(parser.IsStringFormatValid(text) == read, "IsStringFormatValid agrees with TryParse");
     try {
-        Check(read && parser.Parse(text) == timeCode, "Parse reads what TryParse reads");
+        // Parse runs whatever TryParse answered: it must throw exactly when TryParse refused.
+        const TimeCode parsed = parser.Parse(text);
+        Check(read && parsed == timeCode, "Parse reads what TryParse reads");
     } catch (const std::invalid_argument& error) {
         Check(!read, "Parse refuses only what TryParse refuses");
         // what() is a C string: a text with a zero byte shows up to that byte.
