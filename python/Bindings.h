@@ -528,6 +528,7 @@ void DefineCopies(Class& cls, Copy copy)
 // One binding function per area; Module.cpp calls them in this order.
 void BindBaseTypes(py::module_& module);
 void BindTimeValues(py::module_& module, py::module_& timePoints);
+void BindTimeTexts(py::module_& timePoints);
 void BindEnumerations(py::module_& module);
 void BindIdentifiers(py::module_& module);
 void BindEssences(py::module_& module);

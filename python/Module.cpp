@@ -66,9 +66,10 @@ PYBIND11_MODULE(orvik_media_assets, module)
     module.doc() = "The in-memory data model of media assets for live broadcast production.";
     py::module_ timePoints = module.def_submodule("time_points",
                                                   "Time values: points, durations, boundaries, "
-                                                  "bounds, rates and timecodes.");
+                                                  "bounds, rates and timecodes, and their texts.");
     BindBaseTypes(module);
     BindTimeValues(module, timePoints);
+    BindTimeTexts(timePoints);
     BindEnumerations(module);
     BindIdentifiers(module);
     BindEssences(module);
