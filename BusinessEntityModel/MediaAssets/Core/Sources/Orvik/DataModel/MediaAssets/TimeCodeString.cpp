@@ -32,8 +32,7 @@ bool IsTimeCodeText(std::string_view text)
     }
     // ":MM:SS:FF" or ":MM:SS;FF"
     return text.size() == at + 9 && text[at] == ':' && IsPairUpTo(text, at + 1, '5') && text[at + 3] == ':'
-        && IsPairUpTo(text, at + 4, '5') && (text[at + 6] == ':' || text[at + 6] == ';')
-        && IsPairUpTo(text, at + 7, '2');
+        && IsPairUpTo(text, at + 4, '5') && (text[at + 6] == ':' || text[at + 6] == ';') && IsPairUpTo(text, at + 7, '2');
 }
 
 }  // namespace
