@@ -76,6 +76,9 @@ TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
          R"(/essences/1/colour: expected no member of this name)"},
         {"duplicate member", Changed(R"("format":"QuickTime",)", R"("format":"QuickTime","format":"QuickTime",)"), "/format",
          R"(/format: expected one member of this name, found a second)"},
+        {"duplicate member under an escaped name",
+         Changed(R"("format":"QuickTime",)", R"("format":"QuickTime","\u0066ormat":"QuickTime",)"), "/format",
+         R"(/format: expected one member of this name, found a second)"},
         {"unknown enumeration text",
          Changed(R"("bitRateMode":"cbr","sampleRate":{"numerator":48000,"denominator":1},"bitDepth":24,"fourCC":"lpcm"}])",
                  R"("bitRateMode":"CBR","sampleRate":{"numerator":48000,"denominator":1},"bitDepth":24,"fourCC":"lpcm"}])"),
@@ -120,6 +123,11 @@ TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
             EXPECT_EQ(error.Path(), bad.path);
         }
     }
+}
+
+TEST(JsonMemberNames, AnEscapedNameIsThePlainName)
+{
+    EXPECT_EQ(Json::FromJson<Stream>(Changed(R"("format")", R"("\u0066ormat")")), Json::FromJson<Stream>(kStream));
 }
 
 TEST(JsonBadInput, SchemaNameNeedsTheSchemaMemberFirst)

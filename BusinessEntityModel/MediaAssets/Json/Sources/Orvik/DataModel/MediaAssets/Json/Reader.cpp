@@ -149,14 +149,22 @@ value Reader::First(Rest& rest, std::string_view name)
     return field.value();
 }
 
-size_t Reader::Find(const std::string_view* names, size_t count, size_t next, std::string_view key)
+size_t Reader::Find(simdjson::ondemand::field& field, const std::string_view* names, size_t count, size_t next)
 {
-    if (next < count && names[next] == key)
+    // The member names hold neither quotes nor backslashes, so a name equals the key's text as it
+    // stands in the document exactly when the key has no escapes and is that name; only a key
+    // that matches no name that way is unescaped (a name written with escapes, or an unknown one).
+    const simdjson::ondemand::raw_json_string raw = field.key();
+    if (next < count && raw.unsafe_is_equal(names[next]))
         return next;
+    for (size_t index = 0; index < count; ++index)
+        if (raw.unsafe_is_equal(names[index]))
+            return index;
+    const std::string_view key = Take(field.unescaped_key(), "a member name");
     for (size_t index = 0; index < count; ++index)
         if (names[index] == key)
             return index;
-    return count;
+    Unexpected(key);
 }
 
 void Reader::Fail(const std::string& expected) const { throw JsonError(path.ToString(), expected); }

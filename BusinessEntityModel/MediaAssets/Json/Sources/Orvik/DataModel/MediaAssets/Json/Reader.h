@@ -121,13 +121,10 @@ public:
         size_t next = 0;
         for (; rest.it != rest.end; ++rest.it) {
             auto field = Take(*rest.it, "a member");
-            const std::string_view key = Take(field.unescaped_key(), "a member name");
-            const size_t index = Find(members.names.data(), N, next, key);
-            if (index == N)
-                Unexpected(key);
+            const size_t index = Find(field, members.names.data(), N, next);
             const uint64_t bit = uint64_t{1} << index;
             if ((seen & bit) != 0)
-                Duplicate(key);
+                Duplicate(members.names[index]);
             seen |= bit;
             next = index + 1;
             const PathSegment segment(path, members.names[index]);
@@ -234,7 +231,9 @@ private:
     /// The value of the first member of `rest`, which must be named `name`; the caller moves past
     /// it once the value is read.
     value First(Rest& rest, std::string_view name);
-    static size_t Find(const std::string_view* names, size_t count, size_t next, std::string_view key);
+    /// The index among `names` of the member `field`, looked for from `next` first; refuses a
+    /// name that is not among them.
+    size_t Find(simdjson::ondemand::field& field, const std::string_view* names, size_t count, size_t next);
     [[noreturn]] void Unexpected(std::string_view key);
     /// Refuses the member `key` of the current object as met a second time.
     [[noreturn]] void Duplicate(std::string_view key);
