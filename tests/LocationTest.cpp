@@ -101,6 +101,7 @@ TEST(DaxContentTrackLocationUri, ReadsBackOnlyTheExactForm)
     DaxContentTrackLocation location;
     ASSERT_TRUE(location.InitFromUri("storage://S1/P2/T3"));
     EXPECT_EQ(location.ServerId(), Identifier("S1"));
+    EXPECT_EQ(location.PartitionId(), Identifier("P2"));
     EXPECT_EQ(location.ContentTrackId(), Identifier("T3"));
     for (const char* text : {"storage:/S1/P2/T3", "storage:///S1/P2/T3", "storage://S1/P2", "storage://S1/P2/T3/",
                              "STORAGE://S1/P2/T3", "xstorage://S1/P2/T3", ""}) {
@@ -111,6 +112,16 @@ TEST(DaxContentTrackLocationUri, ReadsBackOnlyTheExactForm)
     location.PartitionId(Identifier("P/2"));
     DaxContentTrackLocation readBack;
     EXPECT_FALSE(readBack.InitFromUri(location.Uri().Value()));
+}
+
+// A field of a megabyte once overflowed the stack of the URI check.
+TEST(DaxContentTrackLocationUri, LongFieldsAreReadLikeShortOnes)
+{
+    const std::string field(1 << 20, 'x');
+    DaxContentTrackLocation location;
+    ASSERT_TRUE(location.InitFromUri("storage://S1/P2/" + field));
+    EXPECT_EQ(location.ContentTrackId(), Identifier(field));
+    EXPECT_FALSE(location.InitFromUri("storage://" + field));
 }
 
 TEST(DaxProtectLocationEquality, ServerCountsBesideTheUri)

@@ -2,29 +2,31 @@
 
 #include "EqualityVisitor.h"
 
-#include <regex>
+#include <string_view>
 
 namespace Orvik::DataModel::MediaAssets {
 namespace {
 
-constexpr char kScheme[] = "storage://";
-
-const std::regex& Pattern()
-{
-    static const std::regex pattern("^(?:storage:(?:[/]){2})([^/]*)[/]([^/]*)[/]([^/]*)$", std::regex::ECMAScript);
-    return pattern;
-}
+constexpr std::string_view kScheme = "storage://";
 
 }  // namespace
 
+// Read by hand: std::regex recursed once per character and overflowed the stack on a URI of
+// some tens of kilobytes.
 bool DaxContentTrackLocation::InitFromUri(const std::string& uri)
 {
-    std::smatch fields;
-    if (!std::regex_search(uri, fields, Pattern()))
+    const std::string_view text(uri);
+    if (text.substr(0, kScheme.size()) != kScheme)
         return false;
-    Identifier server(fields[1].str());
-    Identifier partition(fields[2].str());
-    Identifier contentTrack(fields[3].str());
+    // Three fields, none holding a "/", each of them possibly empty.
+    const std::string_view fields = text.substr(kScheme.size());
+    const size_t first = fields.find('/');
+    const size_t second = first == std::string_view::npos ? first : fields.find('/', first + 1);
+    if (second == std::string_view::npos || fields.find('/', second + 1) != std::string_view::npos)
+        return false;
+    Identifier server(std::string(fields.substr(0, first)));
+    Identifier partition(std::string(fields.substr(first + 1, second - first - 1)));
+    Identifier contentTrack(std::string(fields.substr(second + 1)));
     daxServerId = std::move(server);
     daxPartitionId = std::move(partition);
     daxContentTrackId = std::move(contentTrack);
@@ -33,7 +35,7 @@ bool DaxContentTrackLocation::InitFromUri(const std::string& uri)
 
 URI DaxContentTrackLocation::Uri() const
 {
-    return URI(kScheme + daxServerId.Value() + "/" + daxPartitionId.Value() + "/" + daxContentTrackId.Value());
+    return URI(std::string(kScheme) + daxServerId.Value() + "/" + daxPartitionId.Value() + "/" + daxContentTrackId.Value());
 }
 
 bool DaxContentTrackLocation::operator==(const Location& other) const { return detail::EqualInOrder(*this, other); }
