@@ -2,6 +2,7 @@
 
 #include "EqualityVisitor.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace Orvik::DataModel::MediaAssets {
@@ -20,10 +21,10 @@ bool DaxContentTrackLocation::InitFromUri(const std::string& uri)
         return false;
     // Three fields, none holding a "/", each of them possibly empty.
     const std::string_view fields = text.substr(kScheme.size());
-    const size_t first = fields.find('/');
-    const size_t second = first == std::string_view::npos ? first : fields.find('/', first + 1);
-    if (second == std::string_view::npos || fields.find('/', second + 1) != std::string_view::npos)
+    if (std::count(fields.begin(), fields.end(), '/') != 2)
         return false;
+    const size_t first = fields.find('/');
+    const size_t second = fields.find('/', first + 1);
     Identifier server(std::string(fields.substr(0, first)));
     Identifier partition(std::string(fields.substr(first + 1, second - first - 1)));
     Identifier contentTrack(std::string(fields.substr(second + 1)));
