@@ -129,6 +129,17 @@ TEST(JsonDocuments, CompactFormHasNoWhitespaceOutsideStrings)
     EXPECT_EQ(compact.rfind("{\"schema\":{\"name\":\"Stream\",\"version\":1},\"objectId\":5,", 0), 0u);
 }
 
+TEST(JsonDocuments, TextsEscapeQuotesBackslashesAndControlCharactersAndKeepTheRest)
+{
+    const std::string text = std::string("a\"b\\c/\0\x01\b\t\n\f\r\x1F\x7F", 15) + "\xC3\xA9\xE2\x82\xAC";
+    const std::string compact = Json::ToJson(Stream(StreamId(text)));
+    EXPECT_NE(compact.find(R"("streamId":"a\"b\\c/\u0000\u0001\b\t\n\f\r\u001F)"
+                           "\x7F\xC3\xA9\xE2\x82\xAC\","),
+              std::string::npos)
+        << compact;
+    EXPECT_EQ(Json::FromJson<Stream>(compact).Id(), StreamId(text));
+}
+
 TEST(JsonDocuments, StreamOverloadsWriteAndReadTheSameDocument)
 {
     const std::string text = ReadFile("group-angles.json");

@@ -161,7 +161,7 @@ TEST(JsonWriteErrors, TextThatIsNotUtf8IsRefusedAtItsPath)
 {
     MediaResource resource(MediaResourceId("r"));
     auto stream = std::make_unique<Stream>(StreamId("s"));
-    stream->Locations().Add(std::make_unique<ZanLocation>(ZanServerId(120), "A\xFF"));
+    stream->Locations().Add(std::make_unique<ZanLocation>(ZanServerId(120), "A\n\xC3\xA9\xFF"));
     resource.Adopt(std::move(stream));
     EXPECT_THAT([&] { Json::ToJson(resource); },
                 ThrowsMessage<Json::JsonError>(StrEq("/streams/0/pointer/locations/0/sequenceId: expected text in UTF-8, "

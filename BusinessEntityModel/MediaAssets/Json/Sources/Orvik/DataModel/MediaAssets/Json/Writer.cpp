@@ -5,22 +5,12 @@
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
-#include <simdjson.h>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
 
 constexpr char kNotUtf8[] = "expected text in UTF-8, found invalid bytes";
-
-// Most texts of the model are short and ASCII; only the others go through the full check.
-bool IsUtf8(std::string_view text)
-{
-    for (const char c : text)
-        if (static_cast<unsigned char>(c) >= 0x80)
-            return simdjson::validate_utf8(text.data(), text.size());
-    return true;
-}
 
 }  // namespace
 
@@ -32,29 +22,27 @@ void Writer::StartObject()
     if (schemaWritten)
         return;
     schemaWritten = true;
-    json.Key("schema");
+    json.Plain("schema");
     json.StartObject();
-    json.Key("name");
-    json.String(schemaName.data(), static_cast<rapidjson::SizeType>(schemaName.size()));
-    json.Key("version");
+    json.Plain("name");
+    json.Plain(schemaName);
+    json.Plain("version");
     json.Int(kSchemaVersion);
     json.EndObject();
 }
 
 void Writer::CheckedKey(std::string_view name)
 {
-    if (!IsUtf8(name)) {
+    if (!json.Text(name)) {
         const PathSegment segment(path, name);
         Fail(kNotUtf8);
     }
-    Key(name);
 }
 
 void Writer::String(std::string_view text)
 {
-    if (!IsUtf8(text))
+    if (!json.Text(text))
         Fail(kNotUtf8);
-    json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
 
 void Writer::Raw(std::string_view jsonText) { json.RawValue(jsonText.data(), jsonText.size(), rapidjson::kObjectType); }

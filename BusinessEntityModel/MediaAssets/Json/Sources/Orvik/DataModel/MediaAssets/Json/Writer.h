@@ -5,11 +5,11 @@
 // their first place and as a JSON pointer to it everywhere else.
 
 #include "Path.h"
+#include "RunWriter.h"
 
 #include <Orvik/DataModel/MediaAssets/Json/Layout.h>
 
 #include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
 
 #include <cstdint>
 #include <string>
@@ -28,8 +28,8 @@ public:
     void StartObject();
     void EndObject() { json.EndObject(); }
 
-    /// A member name known to be valid UTF-8.
-    void Key(std::string_view name) { json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size())); }
+    /// A member name of the document (no quote, backslash, control character or non-ASCII byte).
+    void Key(std::string_view name) { json.Plain(name); }
     /// A member name from the model; throws JsonError unless it is valid UTF-8.
     void CheckedKey(std::string_view name);
     /// Throws JsonError at the current path unless `text` is valid UTF-8.
@@ -105,11 +105,8 @@ public:
     std::string Finish(Layout layout) const;
 
 private:
-    // Texts are checked by simdjson's UTF-8 validation, which is much faster than the writer's own.
-    using JsonWriter = rapidjson::Writer<rapidjson::StringBuffer>;
-
     rapidjson::StringBuffer buffer;
-    JsonWriter json;
+    RunWriter json;
     std::string_view schemaName;
     bool schemaWritten = false;
     Path path;
