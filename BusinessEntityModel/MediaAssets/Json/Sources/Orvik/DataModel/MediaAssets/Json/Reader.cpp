@@ -3,6 +3,7 @@
 #include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
 #include <Orvik/DataModel/MediaAssets/Json/SchemaName.h>
 
+#include <cstring>
 #include <limits>
 #include <new>
 
@@ -10,20 +11,19 @@ namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
 
-// The parser keeps its buffers between documents of one thread; a document read while another
-// is being read on the same thread (a profile codec that reads a document) gets a parser of its
-// own.
-std::unique_ptr<simdjson::ondemand::parser>& SpareParser()
+// The workspace is kept between documents of one thread; a document read while another is being
+// read on the same thread (a profile codec that reads a document) gets a workspace of its own.
+std::unique_ptr<Reader::Workspace>& SpareWorkspace()
 {
-    thread_local std::unique_ptr<simdjson::ondemand::parser> spare;
+    thread_local std::unique_ptr<Reader::Workspace> spare;
     return spare;
 }
 
-Reader::LentParser TakeParser()
+Reader::LentWorkspace TakeWorkspace()
 {
-    if (auto& spare = SpareParser())
-        return Reader::LentParser(spare.release());
-    return Reader::LentParser(new simdjson::ondemand::parser());
+    if (auto& spare = SpareWorkspace())
+        return Reader::LentWorkspace(spare.release());
+    return Reader::LentWorkspace(new Reader::Workspace());
 }
 
 // What the document holds where something else was expected: the number itself, or its kind.
@@ -53,23 +53,31 @@ std::string Found(value& v)
 
 }  // namespace
 
-Reader::Reader(std::string_view document, std::string_view schemaName)
-    : schemaName(schemaName), parser(TakeParser()), text(document.data(), document.size())
+Reader::Reader(std::string_view document, std::string_view schemaName) : schemaName(schemaName), workspace(TakeWorkspace())
 {
-    // simdjson's padded copy is left without a buffer when its allocation fails.
-    if (text.data() == nullptr)
-        throw std::bad_alloc();
-    this->document = Take(parser->iterate(text), "a JSON document");
+    const size_t capacity = document.size() + simdjson::SIMDJSON_PADDING;
+    if (workspace->capacity < capacity) {
+        workspace->text.reset();
+        workspace->capacity = 0;
+        workspace->text.reset(new char[capacity]);
+        workspace->capacity = capacity;
+    }
+    char* const text = workspace->text.get();
+    if (!document.empty())
+        std::memcpy(text, document.data(), document.size());
+    std::memset(text + document.size(), 0, simdjson::SIMDJSON_PADDING);
+    this->document =
+        Take(workspace->parser.iterate(simdjson::padded_string_view(text, document.size(), capacity)), "a JSON document");
 }
 
 Reader::~Reader() = default;
 
-void Reader::GiveBack::operator()(simdjson::ondemand::parser* parser) const noexcept
+void Reader::GiveBack::operator()(Workspace* workspace) const noexcept
 {
-    if (SpareParser())
-        delete parser;
+    if (SpareWorkspace())
+        delete workspace;
     else
-        SpareParser().reset(parser);
+        SpareWorkspace().reset(workspace);
 }
 
 int64_t Reader::Int64(value v) { return Take(v.get_int64(), "an integer", &v); }

@@ -39,15 +39,22 @@ constexpr Members<sizeof...(Names)> MemberNames(Names... names)
 
 class Reader {
 public:
-    /// Parses `text`, whose top-level object must carry the schema `schemaName`.
-    /// Gives a parser back to the thread's spare, buffers and all, when there is none; a reader
-    /// that fails anywhere, even while it is being built, gives its parser back too. (simdjson
-    /// 3.0 does not check the allocation of the string buffer when a parser grows: a parser
-    /// kept grown meets that allocation only for a larger document.)
-    struct GiveBack {
-        void operator()(simdjson::ondemand::parser* parser) const noexcept;
+    /// What a thread keeps between documents, grown to the largest one read: the parser with its
+    /// buffers, and the padded copy of the text that simdjson reads.
+    struct Workspace {
+        simdjson::ondemand::parser parser;
+        std::unique_ptr<char[]> text;
+        size_t capacity = 0;
     };
-    using LentParser = std::unique_ptr<simdjson::ondemand::parser, GiveBack>;
+    /// Parses `text`, whose top-level object must carry the schema `schemaName`.
+    /// Gives a workspace back to the thread's spare when there is none; a reader that fails
+    /// anywhere, even while it is being built, gives its workspace back too. (simdjson 3.0 does
+    /// not check the allocation of the string buffer when a parser grows: a parser kept grown
+    /// meets that allocation only for a larger document.)
+    struct GiveBack {
+        void operator()(Workspace* workspace) const noexcept;
+    };
+    using LentWorkspace = std::unique_ptr<Workspace, GiveBack>;
 
     Reader(std::string_view text, std::string_view schemaName);
     ~Reader();
@@ -240,8 +247,7 @@ private:
     [[noreturn]] void Missing(std::string_view key) const;
 
     std::string_view schemaName;
-    LentParser parser;
-    simdjson::padded_string text;
+    LentWorkspace workspace;
     simdjson::ondemand::document document;
     Path path;
     std::unordered_map<std::string, Entry> shared;
