@@ -9,60 +9,51 @@ namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
 
-// What a byte needs in a JSON string: nothing, an escape of its own, or (from 0x80 up) the UTF-8
-// check of the text it belongs to.
-enum ByteClass : unsigned char { kPlain, kEscaped, kNonAscii };
-
-constexpr std::array<unsigned char, 256> kClasses = [] {
-    std::array<unsigned char, 256> classes{};
+// The escape of each byte as RapidJSON's writer writes it: 0 for none, the letter after the
+// backslash for a quote, a backslash and the control characters JSON has a short form for, and
+// 'u' for the other control characters ("\u00XX", upper-case hex).
+constexpr std::array<char, 256> kEscapes = [] {
+    std::array<char, 256> escapes{};
     for (size_t byte = 0; byte < 0x20; ++byte)
-        classes[byte] = kEscaped;
-    classes['"'] = kEscaped;
-    classes['\\'] = kEscaped;
-    for (size_t byte = 0x80; byte < 0x100; ++byte)
-        classes[byte] = kNonAscii;
-    return classes;
+        escapes[byte] = 'u';
+    escapes['"'] = '"';
+    escapes['\\'] = '\\';
+    escapes['\b'] = 'b';
+    escapes['\t'] = 't';
+    escapes['\n'] = 'n';
+    escapes['\f'] = 'f';
+    escapes['\r'] = 'r';
+    return escapes;
 }();
 
-unsigned char ClassOf(char c) { return kClasses[static_cast<unsigned char>(c)]; }
+// The bytes that end a run that can be copied as it stands: those with an escape, and the
+// non-ASCII ones, whose text must pass the UTF-8 check.
+constexpr std::array<bool, 256> kEndsRun = [] {
+    std::array<bool, 256> ends{};
+    for (size_t byte = 0; byte < 0x100; ++byte)
+        ends[byte] = kEscapes[byte] != 0 || byte >= 0x80;
+    return ends;
+}();
 
-// The escapes of RapidJSON's writer: the short forms JSON has, "\u00XX" in upper-case hex for the
-// other control characters.
+char EscapeOf(char c) { return kEscapes[static_cast<unsigned char>(c)]; }
+bool EndsRun(char c) { return kEndsRun[static_cast<unsigned char>(c)]; }
+bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
+
 void WriteEscape(rapidjson::StringBuffer& out, char c)
 {
-    char* p = out.Push(2);
+    const char escape = EscapeOf(c);
+    const bool hex = escape == 'u';
+    char* p = out.Push(hex ? 6 : 2);
     p[0] = '\\';
-    switch (c) {
-    case '"':
-    case '\\':
-        p[1] = c;
-        return;
-    case '\b':
-        p[1] = 'b';
-        return;
-    case '\t':
-        p[1] = 't';
-        return;
-    case '\n':
-        p[1] = 'n';
-        return;
-    case '\f':
-        p[1] = 'f';
-        return;
-    case '\r':
-        p[1] = 'r';
-        return;
-    default:
-        break;
+    p[1] = escape;
+    if (hex) {
+        constexpr char kHex[] = "0123456789ABCDEF";
+        const auto byte = static_cast<unsigned char>(c);
+        p[2] = '0';
+        p[3] = '0';
+        p[4] = kHex[byte >> 4];
+        p[5] = kHex[byte & 0xF];
     }
-    constexpr char kHex[] = "0123456789ABCDEF";
-    const auto byte = static_cast<unsigned char>(c);
-    p[1] = 'u';
-    char* digits = out.Push(4);
-    digits[0] = '0';
-    digits[1] = '0';
-    digits[2] = kHex[byte >> 4];
-    digits[3] = kHex[byte & 0xF];
 }
 
 void WriteRun(rapidjson::StringBuffer& out, const char* begin, size_t size)
@@ -86,14 +77,14 @@ void RunWriter::Plain(std::string_view text)
 bool RunWriter::Text(std::string_view text)
 {
     size_t first = 0;
-    while (first < text.size() && ClassOf(text[first]) == kPlain)
+    while (first < text.size() && !EndsRun(text[first]))
         ++first;
     if (first == text.size()) {
         Plain(text);
         return true;
     }
     for (size_t i = first; i < text.size(); ++i)
-        if (ClassOf(text[i]) == kNonAscii) {
+        if (!IsAscii(text[i])) {
             if (!simdjson::validate_utf8(text.data() + i, text.size() - i))
                 return false;
             break;
@@ -103,7 +94,7 @@ bool RunWriter::Text(std::string_view text)
     os_->Put('"');
     size_t run = 0;
     for (size_t i = first; i < text.size(); ++i)
-        if (ClassOf(text[i]) == kEscaped) {
+        if (EscapeOf(text[i]) != 0) {
             WriteRun(*os_, text.data() + run, i - run);
             WriteEscape(*os_, text[i]);
             run = i + 1;
