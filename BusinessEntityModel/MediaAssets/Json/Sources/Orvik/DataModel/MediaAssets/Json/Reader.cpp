@@ -57,8 +57,6 @@ Reader::Reader(std::string_view document, std::string_view schemaName) : schemaN
 {
     const size_t capacity = document.size() + simdjson::SIMDJSON_PADDING;
     if (workspace->capacity < capacity) {
-        workspace->text.reset();
-        workspace->capacity = 0;
         workspace->text.reset(new char[capacity]);
         workspace->capacity = capacity;
     }

@@ -27,7 +27,7 @@ constexpr std::array<char, 256> kEscapes = [] {
 }();
 
 // The bytes that end a run that can be copied as it stands: those with an escape, and the
-// non-ASCII ones, whose text must pass the UTF-8 check.
+// non-ASCII ones, whose text must pass the UTF-8 check (run from the first such byte on).
 constexpr std::array<bool, 256> kEndsRun = [] {
     std::array<bool, 256> ends{};
     for (size_t byte = 0; byte < 0x100; ++byte)
@@ -37,7 +37,6 @@ constexpr std::array<bool, 256> kEndsRun = [] {
 
 char EscapeOf(char c) { return kEscapes[static_cast<unsigned char>(c)]; }
 bool EndsRun(char c) { return kEndsRun[static_cast<unsigned char>(c)]; }
-bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
 void WriteEscape(rapidjson::StringBuffer& out, char c)
 {
@@ -83,12 +82,8 @@ bool RunWriter::Text(std::string_view text)
         Plain(text);
         return true;
     }
-    for (size_t i = first; i < text.size(); ++i)
-        if (!IsAscii(text[i])) {
-            if (!simdjson::validate_utf8(text.data() + i, text.size() - i))
-                return false;
-            break;
-        }
+    if (!simdjson::validate_utf8(text.data() + first, text.size() - first))
+        return false;
 
     Prefix(rapidjson::kStringType);
     os_->Put('"');
