@@ -11,25 +11,44 @@
 
 #include <cstdint>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace Orvik::DataModel::MediaAssets;
-using Orvik::Testing::ArbitraryObjects;
+using Any = Orvik::Testing::ArbitraryObjects;
 
 namespace {
 
 constexpr uint64_t kSeeds = 400;
 constexpr int kMutationsPerTarget = 3;
 
-/// Changes one field of `target` and says the path of that field, or nothing when `target` has
-/// no such field (an empty collection, another kind).
+/// The path of the one field a mutation changed, or nothing when equality ignores the change or
+/// the target has no such field (an empty collection, another kind).
+using Path = std::optional<std::string>;
 template <typename T>
-using Mutation = std::function<std::optional<std::string>(T& target, ArbitraryObjects& any)>;
+using Mutation = std::function<Path(T& target, Any& any)>;
 
 std::string At(const std::string& path, size_t index) { return path + "[" + std::to_string(index) + "]"; }
+
+template <typename E>
+E Other(E value, E first, E second)
+{
+    return value == first ? second : first;
+}
+
+/// A change that needs no choice, reported at `path` (nullptr: a field that equality ignores).
+template <typename T>
+Mutation<T> Field(const char* path, void (*change)(T&))
+{
+    return [path, change](T& target, Any&) {
+        change(target);
+        return path == nullptr ? Path() : Path(path);
+    };
+}
 
 /// A copy of `*pointer` in its place, so that a change to it leaves the source's object alone.
 template <typename T>
@@ -39,9 +58,25 @@ T& Own(std::shared_ptr<T>& pointer)
     return *pointer;
 }
 
-// One change of a metadata dictionary whose profiles are shared with the source's.
-std::optional<std::string> MutateMetadata(MetadataProfileDictionary& dictionary, ArbitraryObjects& any,
-                                          const std::string& path)
+using Profile = PelkOperatorMetadataProfile;
+// Changes of an operator profile, each with its path below the profile (nullptr: not compared).
+const std::pair<const char*, void (*)(Profile&)> kProfileChanges[] = {
+    {nullptr, [](Profile& p) { p.UserProtected(!p.IsUserProtected()); }},
+    {nullptr, [](Profile& p) { p.PelkUIProtected(!p.IsPelkUiProtected()); }},
+    {nullptr, [](Profile& p) { p.ObjectId(p.ObjectId() + 1); }},
+    {".rating", [](Profile& p) { p.Rating(p.Rating() ^ 1); }},
+    {".keywords[0]", [](Profile& p) { p.Keyword(0, p.Keyword(0) + "x"); }},
+    {".todTimecode.totalSample", [](Profile& p) { p.TodTimecode(p.TodTimecode() + 1); }},
+    {".color", [](Profile& p) { p.Color(p.Color() ^ 0x00FF0000); }},
+    {".archiveStatus",
+     [](Profile& p) { p.ArchiveStatus(Other(p.ArchiveStatus(), ArchiveStatus::None, ArchiveStatus::Archived)); }},
+    {".fillAndKeyMediaAssetId",
+     [](Profile& p) { p.FillAndKeyMediaAssetId(Identifier(p.FillAndKeyMediaAssetId().Value() + "x")); }},
+};
+
+// One change of a dictionary whose profiles are shared with the source's: a profile is replaced
+// by a changed clone, never changed in place.
+Path MutateMetadata(MetadataProfileDictionary& dictionary, Any& any, const std::string& path)
 {
     const std::string entry = path + "[\"orvik.pelkoperator\"]";
     if (dictionary.Empty() || any.Below(4) == 0) {
@@ -57,54 +92,31 @@ std::optional<std::string> MutateMetadata(MetadataProfileDictionary& dictionary,
         angles->Clip(angles->Clip() ^ 1);
         return entry + ".clip";
     }
-    auto& profile = dynamic_cast<PelkOperatorMetadataProfile&>(*copy);
-    switch (any.Below(7)) {
-    case 0:
-        profile.UserProtected(!profile.IsUserProtected());  // not compared
-        profile.PelkUIProtected(!profile.IsPelkUiProtected());
-        profile.ObjectId(profile.ObjectId() + 1);
-        return std::nullopt;
-    case 1:
-        profile.Rating(profile.Rating() ^ 1);
-        return entry + ".rating";
-    case 2:
-        profile.Keyword(static_cast<size_t>(profile.KeywordsCount()), "new");
-        return entry + ".keywords[" + std::to_string(profile.KeywordsCount() - 1) + "]";
-    case 3: {
-        Timecode timecode = profile.TodTimecode();
-        timecode.IsDrop(!timecode.IsDrop());
-        profile.TodTimecode(timecode);
-        return entry + ".todTimecode.isDrop";
-    }
-    case 4:
-        profile.Color(profile.Color() ^ 0x00FF0000);
-        return entry + ".color";
-    case 5:
-        profile.ArchiveStatus(profile.ArchiveStatus() == ArchiveStatus::None ? ArchiveStatus::Archived
-                                                                             : ArchiveStatus::None);
-        return entry + ".archiveStatus";
-    default:
-        profile.FillAndKeyMediaAssetId(Identifier(profile.FillAndKeyMediaAssetId().Value() + "x"));
-        return entry + ".fillAndKeyMediaAssetId";
-    }
+    const auto& [field, change] = kProfileChanges[any.Below(std::size(kProfileChanges))];
+    change(dynamic_cast<Profile&>(*copy));
+    return field == nullptr ? Path() : Path(entry + field);
 }
 
-std::optional<std::string> MutateBounds(TimeBoundsArray& bounds, ArbitraryObjects& any, const std::string& path)
+// Technical metadata is shared with the source since the copy: the change goes to an own dictionary.
+template <typename T>
+Path MutateOwnMetadata(T& owner, Any& any, const std::string& path)
 {
-    const std::string prefix = path.empty() ? "" : path + ".";
+    auto own = std::make_shared<MetadataProfileDictionary>(owner.Metadata().Clone());
+    owner.Metadata(own);
+    return MutateMetadata(*own, any, path);
+}
+
+Path MutateBounds(TimeBoundsArray& bounds, Any& any, const std::string& path)
+{
+    const TimeBoundary in = bounds.InBoundary();
+    const TimeBoundary out = bounds.OutBoundary();
     switch (any.Below(3)) {
-    case 0: {
-        TimeBoundary in = bounds.InBoundary();
-        in.IsMoving(!in.IsMoving());
-        bounds.InBoundary(in);
-        return prefix + "inBoundary.isMoving";
-    }
-    case 1: {
-        TimeBoundary out = bounds.OutBoundary();
-        out.TimePoint(TimePoint(out.TimePoint().ToNanoseconds() ^ 1));
-        bounds.OutBoundary(out);
-        return prefix + "outBoundary.timePoint";
-    }
+    case 0:
+        bounds.InBoundary(TimeBoundary(in.TimePoint(), !in.IsMoving()));
+        return path + ".inBoundary.isMoving";
+    case 1:
+        bounds.OutBoundary(TimeBoundary(TimePoint(out.TimePoint().ToNanoseconds() ^ 1), out.IsMoving()));
+        return path + ".outBoundary.timePoint";
     default:
         if (bounds.Empty())
             return std::nullopt;
@@ -113,7 +125,7 @@ std::optional<std::string> MutateBounds(TimeBoundsArray& bounds, ArbitraryObject
     }
 }
 
-std::optional<std::string> MutateEssence(Essence& essence, ArbitraryObjects& any, const std::string& path)
+Path MutateEssence(Essence& essence, Any& any, const std::string& path)
 {
     switch (any.Below(7)) {
     case 0:
@@ -123,14 +135,10 @@ std::optional<std::string> MutateEssence(Essence& essence, ArbitraryObjects& any
         // A negative number matches any number: that change is no difference.
         const bool wildcard = essence.Nr() < 0;
         essence.Nr(wildcard ? 7 : essence.Nr() + 1);
-        return wildcard ? std::nullopt : std::optional<std::string>(path + ".nr");
+        return wildcard ? std::nullopt : Path(path + ".nr");
     }
-    case 2: {
-        // The dictionary is shared with the source since Clone(): take an own one.
-        auto own = std::make_shared<MetadataProfileDictionary>(essence.Metadata().Clone());
-        essence.Metadata(own);
-        return MutateMetadata(*own, any, path + ".metadata");
-    }
+    case 2:
+        return MutateOwnMetadata(essence, any, path + ".metadata");
     case 3: {
         if (essence.TrackChannels().Empty())
             return std::nullopt;
@@ -172,7 +180,7 @@ std::optional<std::string> MutateEssence(Essence& essence, ArbitraryObjects& any
     }
 }
 
-std::optional<std::string> MutateLocation(Location& location, const std::string& path)
+Path MutateLocation(Location& location, const std::string& path)
 {
     if (auto* file = dynamic_cast<FileLocation*>(&location)) {
         file->LastAccessDate(file->LastAccessDate() + 1);
@@ -192,29 +200,19 @@ std::optional<std::string> MutateLocation(Location& location, const std::string&
 }
 
 const std::vector<Mutation<Stream>> kStreamMutations = {
-    [](Stream& s, ArbitraryObjects&) -> std::optional<std::string> {
-        s.Id(Identifier(s.Id().Value() + "x"));
-        return "streamId";
-    },
-    [](Stream& s, ArbitraryObjects&) -> std::optional<std::string> {
-        s.Format(s.Format() == WrapperFormat::MXFOP1a ? WrapperFormat::MP4 : WrapperFormat::MXFOP1a);
-        return "format";
-    },
-    [](Stream& s, ArbitraryObjects& any) { return MutateBounds(s.Timebounds(), any, "timebounds"); },
-    [](Stream& s, ArbitraryObjects& any) {
-        auto own = std::make_shared<MetadataProfileDictionary>(s.Metadata().Clone());
-        s.Metadata(own);
-        return MutateMetadata(*own, any, "metadata");
-    },
-    [](Stream& s, ArbitraryObjects& any) -> std::optional<std::string> {
+    Field<Stream>("streamId", [](Stream& s) { s.Id(Identifier(s.Id().Value() + "x")); }),
+    Field<Stream>("format", [](Stream& s) { s.Format(Other(s.Format(), WrapperFormat::MXFOP1a, WrapperFormat::MP4)); }),
+    [](Stream& s, Any& any) { return MutateBounds(s.Timebounds(), any, "timebounds"); },
+    [](Stream& s, Any& any) { return MutateOwnMetadata(s, any, "metadata"); },
+    [](Stream& s, Any& any) {
         if (s.Essences().Empty() || any.Below(4) == 0) {
             s.Essences().Add(any.Essence());
-            return At("essences", static_cast<size_t>(s.Essences().Size() - 1));
+            return Path(At("essences", static_cast<size_t>(s.Essences().Size() - 1)));
         }
         const size_t index = any.Below(static_cast<uint64_t>(s.Essences().Size()));
         return MutateEssence(s.Essences()[static_cast<int>(index)], any, At("essences", index));
     },
-    [](Stream& s, ArbitraryObjects& any) -> std::optional<std::string> {
+    [](Stream& s, Any& any) -> Path {
         if (s.Locations().Empty())
             return std::nullopt;
         if (any.Below(4) == 0) {
@@ -227,75 +225,45 @@ const std::vector<Mutation<Stream>> kStreamMutations = {
 };
 
 const std::vector<Mutation<MediaResource>> kResourceMutations = {
-    [](MediaResource& r, ArbitraryObjects&) -> std::optional<std::string> {
-        r.Name(r.Name() + "x");
-        return "name";
-    },
-    [](MediaResource& r, ArbitraryObjects&) -> std::optional<std::string> {
-        r.GeneralFormat(r.GeneralFormat() == ResourceFormat::unknown ? ResourceFormat::ToBeDefined
-                                                                     : ResourceFormat::unknown);
-        return "generalFormat";
-    },
-    [](MediaResource& r, ArbitraryObjects&) -> std::optional<std::string> {
+    Field<MediaResource>("name", [](MediaResource& r) { r.Name(r.Name() + "x"); }),
+    Field<MediaResource>("generalFormat",
+                         [](MediaResource& r) {
+                             r.GeneralFormat(Other(r.GeneralFormat(), ResourceFormat::unknown, ResourceFormat::ToBeDefined));
+                         }),
+    Field<MediaResource>("modificationDate", [](MediaResource& r) { r.ModificationDate(r.ModificationDate() + 1); }),
+    [](MediaResource& r, Any& any) { return MutateBounds(r.Timebounds(), any, "timebounds"); },
+    [](MediaResource& r, Any& any) { return MutateOwnMetadata(r, any, "metadata"); },
+    [](MediaResource& r, Any&) -> Path {
         // Streams are compared by id alone: a change inside a loaded stream is no difference.
         if (r.Streams().empty())
             return std::nullopt;
-        const size_t index = r.Streams().size() - 1;
-        if (r.Streams()[index].Pointer()) {
-            auto stream = std::make_shared<Stream>(r.Streams()[index]->Clone());
-            stream->Format(stream->Format() == WrapperFormat::MP4 ? WrapperFormat::AVI : WrapperFormat::MP4);
-            r.Streams()[index] = StreamReference(stream);
+        StreamReference& last = r.Streams().back();
+        if (last.Pointer()) {
+            auto stream = std::make_shared<Stream>(last->Clone());
+            stream->Format(Other(stream->Format(), WrapperFormat::MP4, WrapperFormat::AVI));
+            last = StreamReference(stream);
             return std::nullopt;
         }
-        r.Streams()[index] = StreamReference(Identifier(r.Streams()[index].Id().Value() + "x"));
-        return At("streams", index) + ".id";
-    },
-    [](MediaResource& r, ArbitraryObjects&) -> std::optional<std::string> {
-        r.ModificationDate(r.ModificationDate() + 1);
-        return "modificationDate";
-    },
-    [](MediaResource& r, ArbitraryObjects& any) { return MutateBounds(r.Timebounds(), any, "timebounds"); },
-    [](MediaResource& r, ArbitraryObjects& any) {
-        auto own = std::make_shared<MetadataProfileDictionary>(r.Metadata().Clone());
-        r.Metadata(own);
-        return MutateMetadata(*own, any, "metadata");
+        last = StreamReference(Identifier(last.Id().Value() + "x"));
+        return At("streams", r.Streams().size() - 1) + ".id";
     },
 };
 
 const std::vector<Mutation<MediaAsset>> kAssetMutations = {
-    [](MediaAsset& a, ArbitraryObjects&) -> std::optional<std::string> {
-        a.ObjectId(a.ObjectId() + 1);
-        return std::nullopt;
-    },
-    [](MediaAsset& a, ArbitraryObjects&) -> std::optional<std::string> {
-        a.AssetType(a.AssetType() == AssetType::media ? AssetType::train : AssetType::media);
-        return "assetType";
-    },
-    [](MediaAsset& a, ArbitraryObjects& any) -> std::optional<std::string> {
-        // The lineage is compared by id: another asset object with the same id is no difference.
-        if (any.Flip()) {
-            a.Parent(MediaAssetReference(std::make_shared<MediaAsset>(a.Parent().Id())));
-            return std::nullopt;
-        }
-        a.Ancestor(MediaAssetReference(Identifier(a.Ancestor().Id().Value() + "x")));
-        return "ancestor.id";
-    },
-    [](MediaAsset& a, ArbitraryObjects&) -> std::optional<std::string> {
-        a.Description(a.Description() + "\"");
-        return "description";
-    },
-    [](MediaAsset& a, ArbitraryObjects& any) { return MutateBounds(a.PhysicalTimebounds(), any, "physicalTimebounds"); },
-    [](MediaAsset& a, ArbitraryObjects&) -> std::optional<std::string> {
-        a.CreationDate(a.CreationDate() + 1);
-        return "creationDate";
-    },
-    [](MediaAsset& a, ArbitraryObjects& any) {
-        MetadataProfileDictionary own = a.Metadata();
-        auto path = MutateMetadata(own, any, "metadata");
-        a.Metadata(std::move(own));
-        return path;
-    },
-    [](MediaAsset& a, ArbitraryObjects& any) -> std::optional<std::string> {
+    Field<MediaAsset>(nullptr, [](MediaAsset& a) { a.ObjectId(a.ObjectId() + 1); }),
+    Field<MediaAsset>("assetType",
+                      [](MediaAsset& a) { a.AssetType(Other(a.AssetType(), AssetType::media, AssetType::train)); }),
+    // The lineage is compared by id: another asset object with the same id is no difference.
+    Field<MediaAsset>(nullptr,
+                      [](MediaAsset& a) { a.Parent(MediaAssetReference(std::make_shared<MediaAsset>(a.Parent().Id()))); }),
+    Field<MediaAsset>("ancestor.id",
+                      [](MediaAsset& a) { a.Ancestor(MediaAssetReference(Identifier(a.Ancestor().Id().Value() + "x"))); }),
+    Field<MediaAsset>("description", [](MediaAsset& a) { a.Description(a.Description() + "\""); }),
+    Field<MediaAsset>("creationDate", [](MediaAsset& a) { a.CreationDate(a.CreationDate() + 1); }),
+    [](MediaAsset& a, Any& any) { return MutateBounds(a.PhysicalTimebounds(), any, "physicalTimebounds"); },
+    // Editorial metadata is the copy's own dictionary, holding the source's profiles.
+    [](MediaAsset& a, Any& any) { return MutateMetadata(a.Metadata(), any, "metadata"); },
+    [](MediaAsset& a, Any& any) -> Path {
         if (a.Tracks().Empty())
             return std::nullopt;
         if (any.Below(3) == 0) {
@@ -312,7 +280,7 @@ const std::vector<Mutation<MediaAsset>> kAssetMutations = {
         track.Name(track.Name() + "x");
         return At("tracks", index) + ".name";
     },
-    [](MediaAsset& a, ArbitraryObjects& any) -> std::optional<std::string> {
+    [](MediaAsset& a, Any& any) -> Path {
         if (a.TrackLayouts().Empty())
             return std::nullopt;
         const size_t index = any.Below(a.TrackLayouts().Size());
@@ -332,14 +300,14 @@ const std::vector<Mutation<MediaAsset>> kAssetMutations = {
         item.Tracks().Erase(item.Tracks().end() - 1);
         return At(itemPath + ".tracks", item.Tracks().Size());
     },
-    [](MediaAsset& a, ArbitraryObjects&) -> std::optional<std::string> {
+    [](MediaAsset& a, Any&) -> Path {
         if (a.MediaResources().Empty())
             return std::nullopt;
         const size_t index = a.MediaResources().Size() - 1;
         a.MediaResources()[index] = MediaResourceReference(Identifier(a.MediaResources()[index].Id().Value() + "x"));
         return At("mediaResources", index) + ".id";
     },
-    [](MediaAsset& a, ArbitraryObjects& any) -> std::optional<std::string> {
+    [](MediaAsset& a, Any& any) {
         if (a.Annotations().empty() || any.Below(4) == 0) {
             a.Annotations().push_back(std::make_shared<Annotation>(any.Annotation()));
             return At("annotations", a.Annotations().size() - 1);
@@ -350,31 +318,21 @@ const std::vector<Mutation<MediaAsset>> kAssetMutations = {
             return At("annotations", index);
         }
         Annotation& annotation = Own(a.Annotations()[index]);
-        TimeBounds bounds = annotation.TimeBounds();
-        TimeBoundary out = bounds.OutBoundary();
-        out.IsMoving(!out.IsMoving());
-        bounds.OutBoundary(out);
-        annotation.TimeBounds(bounds);
+        const TimeBounds bounds = annotation.TimeBounds();
+        const TimeBoundary out = bounds.OutBoundary();
+        annotation.TimeBounds(TimeBounds(bounds.InBoundary(), TimeBoundary(out.TimePoint(), !out.IsMoving())));
         return At("annotations", index) + ".timeBounds.outBoundary.isMoving";
     },
 };
 
-const std::vector<Mutation<std::shared_ptr<MediaAssetGroup>>> kGroupMutations = {
-    [](std::shared_ptr<MediaAssetGroup>& g, ArbitraryObjects&) -> std::optional<std::string> {
-        g->Type(g->Type() + "x");
-        return "type";
-    },
-    [](std::shared_ptr<MediaAssetGroup>& g, ArbitraryObjects& any) {
-        MetadataProfileDictionary own = g->Metadata();
-        auto path = MutateMetadata(own, any, "metadata");
-        g->Metadata(std::move(own));
-        return path;
-    },
-    [](std::shared_ptr<MediaAssetGroup>& g, ArbitraryObjects& any) -> std::optional<std::string> {
-        if (g->Items().empty())
+const std::vector<Mutation<MediaAssetGroup>> kGroupMutations = {
+    Field<MediaAssetGroup>("type", [](MediaAssetGroup& g) { g.Type(g.Type() + "x"); }),
+    [](MediaAssetGroup& g, Any& any) { return MutateMetadata(g.Metadata(), any, "metadata"); },
+    [](MediaAssetGroup& g, Any& any) -> Path {
+        if (g.Items().empty())
             return std::nullopt;
-        const size_t index = any.Below(g->Items().size());
-        auto& item = g->Items()[index];
+        const size_t index = any.Below(g.Items().size());
+        auto& item = g.Items()[index];
         if (any.Below(4) == 0) {
             item = nullptr;
             return At("items", index);
@@ -390,7 +348,7 @@ const std::vector<Mutation<std::shared_ptr<MediaAssetGroup>>> kGroupMutations = 
 
 /// Checks one pair both ways; `expected` is the path of the one changed field.
 template <typename T>
-void ExpectDifferenceAt(const T& source, const T& changed, const std::optional<std::string>& expected)
+void ExpectDifferenceAt(const T& source, const T& changed, const Path& expected)
 {
     for (const bool forward : {true, false}) {
         const T& left = forward ? source : changed;
@@ -405,22 +363,21 @@ void ExpectDifferenceAt(const T& source, const T& changed, const std::optional<s
     }
 }
 
-/// For each seed: a generated object, a copy and a clone of it, each changed a few times in one
-/// field; every pair checked both ways. Returns the number of pairs.
-template <typename T, typename Make, typename Compare>
-int CheckMutatedCopies(Make make, const std::vector<Mutation<T>>& mutations, Compare expect)
+/// For each seed: a generated object, copies and clones of it (`copy(source, clone)`), each
+/// changed a few times in one field; every pair checked both ways. Returns the number of pairs.
+template <typename T, typename Make, typename Copy>
+int CheckMutatedCopies(Make make, Copy copy, const std::vector<Mutation<T>>& mutations)
 {
     int pairs = 0;
     for (uint64_t seed = 0; seed < kSeeds; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        ArbitraryObjects any(seed);
-        const auto source = make(any, false);
+        Any any(seed);
+        const auto source = make(any);
         for (const bool clone : {false, true}) {
             for (int i = 0; i < kMutationsPerTarget; ++i) {
-                auto target = make(any, clone, &source);
-                const auto& mutation = mutations[any.Below(mutations.size())];
-                const auto expected = mutation(target, any);
-                expect(source, target, expected);
+                auto target = copy(*source, clone);
+                const Path expected = mutations[any.Below(mutations.size())](*target, any);
+                ExpectDifferenceAt<T>(*source, *target, expected);
                 pairs += 2;
             }
         }
@@ -428,36 +385,25 @@ int CheckMutatedCopies(Make make, const std::vector<Mutation<T>>& mutations, Com
     return pairs;
 }
 
+template <typename T>
+std::shared_ptr<T> Held(T value)
+{
+    return std::make_shared<T>(std::move(value));
+}
+
+const auto kCopyOrClone = [](const auto& source, bool clone) { return Held(clone ? source.Clone() : source); };
+
 }  // namespace
 
 TEST(FirstDifferenceProperty, NamesTheOneChangedFieldOfCopiesAndClones)
 {
-    int pairs = 0;
-    pairs += CheckMutatedCopies<MediaAsset>(
-        [](ArbitraryObjects& any, bool clone, const MediaAsset* source = nullptr) {
-            return source == nullptr ? any.MediaAsset() : clone ? source->Clone() : *source;
-        },
-        kAssetMutations, ExpectDifferenceAt<MediaAsset>);
-    pairs += CheckMutatedCopies<MediaResource>(
-        [](ArbitraryObjects& any, bool clone, const MediaResource* source = nullptr) {
-            return source == nullptr ? any.MediaResource() : clone ? source->Clone() : *source;
-        },
-        kResourceMutations, ExpectDifferenceAt<MediaResource>);
-    pairs += CheckMutatedCopies<Stream>(
-        [](ArbitraryObjects& any, bool clone, const Stream* source = nullptr) {
-            return source == nullptr ? any.Stream() : clone ? source->Clone() : Stream(*source);
-        },
-        kStreamMutations, ExpectDifferenceAt<Stream>);
-    pairs += CheckMutatedCopies<std::shared_ptr<MediaAssetGroup>>(
-        [](ArbitraryObjects& any, bool, const std::shared_ptr<MediaAssetGroup>* source = nullptr) {
-            // Groups have no Clone(); a copy shares the items, which the changes replace.
-            return source == nullptr ? (any.Flip() ? any.MediaAssetGroup() : any.AnglesMediaAssetGroup())
-                                     : std::make_shared<MediaAssetGroup>(**source);
-        },
-        kGroupMutations,
-        [](const auto& source, const auto& changed, const std::optional<std::string>& expected) {
-            ExpectDifferenceAt<MediaAssetGroup>(*source, *changed, expected);
-        });
+    int pairs = CheckMutatedCopies([](Any& any) { return Held(any.MediaAsset()); }, kCopyOrClone, kAssetMutations);
+    pairs += CheckMutatedCopies([](Any& any) { return Held(any.MediaResource()); }, kCopyOrClone, kResourceMutations);
+    pairs += CheckMutatedCopies([](Any& any) { return Held(any.Stream()); }, kCopyOrClone, kStreamMutations);
+    // Groups have no Clone(); a copy shares the items, which the changes replace.
+    pairs += CheckMutatedCopies(
+        [](Any& any) { return any.Flip() ? any.MediaAssetGroup() : any.AnglesMediaAssetGroup(); },
+        [](const MediaAssetGroup& source, bool) { return std::make_shared<MediaAssetGroup>(source); }, kGroupMutations);
     RecordProperty("pairs", pairs);
     EXPECT_GT(pairs, 0);
 }
@@ -469,8 +415,8 @@ TEST(FirstDifferenceProperty, ReportsADifferenceExactlyWhenUnequal)
     int unequal = 0;
     for (uint64_t seed = 0; seed < kSeeds; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        ArbitraryObjects left(seed);
-        ArbitraryObjects right(seed % 3 == 0 ? seed : seed + kSeeds);
+        Any left(seed);
+        Any right(seed % 3 == 0 ? seed : seed + kSeeds);
         const auto check = [&unequal](const auto& a, const auto& b) {
             const auto difference = FirstDifference(a, b);
             ASSERT_EQ(difference.has_value(), !(a == b));
