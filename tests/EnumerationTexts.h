@@ -7,19 +7,25 @@
 
 #include <cctype>
 #include <cstddef>
+#include <iterator>
+#include <sstream>
 #include <string>
 #include <vector>
 
 namespace {
 
-// Text i is the text of the value numbered i.
-using Texts = std::vector<std::string>;
+// The words of `list` in order: text i is the text of the value numbered i.
+std::vector<std::string> Texts(const std::string& list)
+{
+    std::istringstream words(list);
+    return {std::istream_iterator<std::string>(words), std::istream_iterator<std::string>()};
+}
 
 // Value i prints as text i and text i parses to value i (`failed` false). A number outside the
 // list prints as text 0; a text outside the list (empty, padded, in another case) parses to
 // value 0 with `failed` true.
 template <typename E, typename Print, typename Parse, typename ParseFailed>
-void ExpectPublishedTexts(const Texts& texts, Print print, Parse parse, ParseFailed parseFailed)
+void ExpectPublishedTexts(const std::vector<std::string>& texts, Print print, Parse parse, ParseFailed parseFailed)
 {
     const auto number = [](E value) { return static_cast<int>(value); };  // printable on failure
     for (size_t i = 0; i < texts.size(); ++i) {
