@@ -1,6 +1,7 @@
 #include <Orvik/DataModel/MediaAssets/AudioEssence.h>
 #include <Orvik/DataModel/MediaAssets/DataEssence.h>
 #include <Orvik/DataModel/MediaAssets/TimeCodeTable.h>
+#include <Orvik/DataModel/MediaAssets/TrackChannel.h>
 #include <Orvik/DataModel/MediaAssets/VideoEssence.h>
 
 #include "TestProfiles.h"
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <stdexcept>
 #include <type_traits>
 
 using namespace Orvik::DataModel::MediaAssets;
@@ -21,6 +23,17 @@ namespace {
 std::shared_ptr<TrackChannel> Channel(const char* trackId, int32_t channelNr)
 {
     return std::make_shared<TrackChannel>(Identifier(trackId), channelNr);
+}
+
+// Whether two new essences of kind E are equal once `left` and `right` have changed them.
+template <typename E>
+bool EqualAfter(void (*left)(E&), void (*right)(E&))
+{
+    E leftEssence;
+    E rightEssence;
+    left(leftEssence);
+    right(rightEssence);
+    return leftEssence == rightEssence;
 }
 
 }  // namespace
@@ -37,43 +50,23 @@ TEST(EssenceEquality, KindComesFirstInBothDirections)
     EXPECT_TRUE(data == DataEssence());
 }
 
-TEST(EssenceEquality, NegativeNumberMatchesAnyNumber)
+TEST(EssenceEquality, NegativeNumberMatchesAnyNumberAndObjectIdIsIgnored)
 {
-    AudioEssence left;
-    AudioEssence right;
-    left.Nr(-1);
-    right.Nr(7);
-    EXPECT_EQ(left, right);
-    left.Nr(1);
-    right.Nr(2);
-    EXPECT_NE(left, right);
+    EXPECT_TRUE(EqualAfter<AudioEssence>([](auto& e) { e.Nr(-1); }, [](auto& e) { e.Nr(7); }));
+    EXPECT_TRUE(EqualAfter<VideoEssence>([](auto& e) { e.Nr(3); }, [](auto& e) { e.Nr(-1); }));
+    EXPECT_FALSE(EqualAfter<AudioEssence>([](auto& e) { e.Nr(1); }, [](auto& e) { e.Nr(2); }));
+    EXPECT_TRUE(EqualAfter<AudioEssence>([](auto&) {}, [](auto& e) { e.ObjectId(42); }));
 }
 
-TEST(EssenceEquality, IgnoresObjectId)
+TEST(EssenceEquality, TextsRatesAndFramingCompareAsStored)
 {
-    AudioEssence left;
-    AudioEssence right;
-    right.ObjectId(42);
-    EXPECT_EQ(left, right);
-}
-
-TEST(EssenceEquality, TextsAndRatesCompareAsStored)
-{
-    AudioEssence left;
-    AudioEssence right;
-    left.FourCC("twos");
-    right.FourCC("TWOS");
-    EXPECT_NE(left, right);
-    right.FourCC("twos");
-    left.SampleRate(Rate(1, 2));
-    right.SampleRate(Rate(2, 4));
-    EXPECT_NE(left, right);
-
-    VideoEssence wide;
-    VideoEssence scaled;
-    wide.AspectRatio(AspectRatio(16, 9));
-    scaled.AspectRatio(AspectRatio(32, 18));
-    EXPECT_NE(wide, scaled);
+    EXPECT_FALSE(EqualAfter<AudioEssence>([](auto& e) { e.FourCC("twos"); }, [](auto& e) { e.FourCC("TWOS"); }));
+    EXPECT_FALSE(
+        EqualAfter<AudioEssence>([](auto& e) { e.SampleRate(Rate(1, 2)); }, [](auto& e) { e.SampleRate(Rate(2, 4)); }));
+    EXPECT_FALSE(EqualAfter<VideoEssence>([](auto& e) { e.AspectRatio(AspectRatio(16, 9)); },
+                                          [](auto& e) { e.AspectRatio(AspectRatio(32, 18)); }));
+    EXPECT_FALSE(EqualAfter<VideoEssence>([](auto& e) { e.Boxing(Boxing::letterbox); }, [](auto&) {}));
+    EXPECT_FALSE(EqualAfter<VideoEssence>([](auto& e) { e.ChannelCount(1); }, [](auto&) {}));
 }
 
 TEST(EssenceEquality, TrackChannelsCompareByValueInPosition)
@@ -88,6 +81,26 @@ TEST(EssenceEquality, TrackChannelsCompareByValueInPosition)
     reversed.TrackChannels().Insert(Channel("a", 3));
     EXPECT_EQ(left, right) << "different objects, same values";
     EXPECT_NE(left, reversed) << "opposite insertion orders stand in opposite orders";
+}
+
+TEST(TrackChannelOrder, IsByNumberSoOnlyTheChannelAtTheLowerBoundIsTested)
+{
+    SortedVectorSharedPointer<TrackChannel> channels;
+    channels.Insert(Channel("a", 3));
+    EXPECT_THROW(channels.Insert(Channel("a", 3)), std::runtime_error);
+    channels.Insert(Channel("b", 3));
+    EXPECT_EQ(channels.Front()->TrackId(), Identifier("b"));
+    channels.Insert(Channel("a", 3));
+    EXPECT_EQ(channels.Size(), 3u);
+    channels.Insert(Channel("z", -1));
+    EXPECT_EQ(channels.Front()->ChannelNr(), -1) << "numbers compare signed";
+}
+
+TEST(TrackChannelEquality, NeedsTrackAndNumber)
+{
+    EXPECT_EQ(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("a"), 3).Clone());
+    EXPECT_NE(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("b"), 3));
+    EXPECT_NE(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("a"), 4));
 }
 
 // What a clone owns and what it shares with its source.
