@@ -1,3 +1,4 @@
+#include <Orvik/DataModel/MediaAssets/Annotation.h>
 #include <Orvik/DataModel/MediaAssets/MediaAsset.h>
 #include <Orvik/DataModel/MediaAssets/VideoEssence.h>
 
@@ -17,8 +18,9 @@ namespace {
 constexpr char kNoOperatorMetadata[] =
     "Orvik::DataModel::MediaAssets::MediaAsset::PelkOperatorMetadata: No orvik.pelkoperator metadata available";
 
-// A fully populated asset: lineage by pointer, a track whose channel refers to a loaded stream,
-// a layout over that track, a loaded and an id-only resource, an annotation, an operator profile.
+// A fully populated asset and its clone: lineage by pointer, a track whose channel refers to a
+// loaded stream, a layout over that track, a loaded and an id-only resource, an annotation, an
+// operator profile.
 class PopulatedAsset : public ::testing::Test {
 protected:
     PopulatedAsset() : source(MediaAssetId("asset"))
@@ -45,31 +47,32 @@ protected:
         item.Tracks().Insert(track);
         auto layout = std::make_shared<TrackLayout>(Identifier("l1"));
         layout->TrackLayoutItems().Insert(item);
+        layout->ObjectId(6);
         source.TrackLayouts().Insert(layout);
 
         auto annotation = std::make_shared<Annotation>(AnnotationType::CuePoint, "goal");
         annotation->Metadata().Set(std::make_shared<TestProfile>(1));
         source.Annotations().push_back(annotation);
         source.Metadata().Set(std::make_shared<PelkOperatorMetadataProfile>());
+        clone = source.Clone();
     }
 
     std::shared_ptr<MediaResource> resource;
     std::shared_ptr<Track> track;
     MediaAsset source;
+    MediaAsset clone;
 };
 
 }  // namespace
 
 TEST_F(PopulatedAsset, CloneIsEqualWithObjectIdUnset)
 {
-    const MediaAsset clone = source.Clone();
     EXPECT_EQ(clone, source);
     EXPECT_EQ(clone.ObjectId(), -1);
 }
 
 TEST_F(PopulatedAsset, CloneKeepsOnlyTheLineageIds)
 {
-    const MediaAsset clone = source.Clone();
     EXPECT_EQ(clone.Ancestor().Id(), MediaAssetId("ancestor"));
     EXPECT_EQ(clone.Ancestor().Pointer(), nullptr);
     EXPECT_THAT([&] { (void)clone.Ancestor()->Id(); }, ThrowsMessage<std::runtime_error>(StrEq("null pointer")));
@@ -78,7 +81,6 @@ TEST_F(PopulatedAsset, CloneKeepsOnlyTheLineageIds)
 
 TEST_F(PopulatedAsset, CloneRebuildsTracksWithTheirOwnStreams)
 {
-    const MediaAsset clone = source.Clone();
     const auto& clonedTrack = clone.Tracks().Front();
     EXPECT_NE(clonedTrack, track);
     EXPECT_EQ(clonedTrack->ObjectId(), -1);
@@ -90,8 +92,6 @@ TEST_F(PopulatedAsset, CloneRebuildsTracksWithTheirOwnStreams)
 
 TEST_F(PopulatedAsset, CloneLayoutsStillPointAtTheSourceTracks)
 {
-    source.TrackLayouts().Front()->ObjectId(6);
-    MediaAsset clone = source.Clone();
     const auto& layout = clone.TrackLayouts().Front();
     EXPECT_NE(layout, source.TrackLayouts().Front());
     EXPECT_EQ(layout->ObjectId(), 6);
@@ -105,9 +105,8 @@ TEST_F(PopulatedAsset, CloneLayoutsStillPointAtTheSourceTracks)
                     StrEq("Orvik::DataModel::MediaAssets::CompareEqualWeakPointer: weak pointer object is expired")));
 }
 
-TEST_F(PopulatedAsset, CloneDeepCopiesResourcesAndAnnotations)
+TEST_F(PopulatedAsset, CloneDeepCopiesResourcesAnnotationsAndProfiles)
 {
-    const MediaAsset clone = source.Clone();
     EXPECT_EQ(clone.MediaResources()[0].Pointer(), nullptr) << "id-only stays id-only";
     EXPECT_NE(clone.MediaResources()[1].Pointer(), resource);
     EXPECT_NE(clone.Annotations()[0], source.Annotations()[0]);
@@ -131,15 +130,9 @@ TEST(MediaAssetEquality, NullAnnotationsAreNeverEqual)
     left.Annotations().push_back(nullptr);
     MediaAsset right = left;
     EXPECT_NE(left, right);
-}
-
-TEST(MediaAssetDuration, IsZeroUntilTheOutBoundaryIsSet)
-{
-    MediaAsset asset;
-    EXPECT_EQ(asset.GetDuration().ToNanoseconds(), 0);
-    asset.InBoundary(TimeBoundary(TimePoint(100), false));
-    asset.OutBoundary(TimeBoundary(TimePoint(250), false));
-    EXPECT_EQ(asset.GetDuration().ToNanoseconds(), 150);
+    const Orvik::DataModel::MediaAssets::equal_to equal;
+    EXPECT_FALSE(equal(nullptr, nullptr));
+    EXPECT_FALSE(equal(std::make_shared<Annotation>(AnnotationType::CuePoint), nullptr));
 }
 
 TEST(MediaAssetOperatorMetadata, IsFoundByClassUnderItsName)
@@ -154,4 +147,28 @@ TEST(MediaAssetOperatorMetadata, IsFoundByClassUnderItsName)
     asset.Metadata().Set(profile);
     EXPECT_TRUE(asset.HasPelkOperatorMetadata());
     EXPECT_EQ(&asset.PelkOperatorMetadata(), profile.get());
+}
+
+TEST(AnnotationEquality, ComparesThePointeesButNotTheirObjectIds)
+{
+    auto left = std::make_shared<Annotation>(AnnotationType::CuePoint, "goal");
+    auto right = std::make_shared<Annotation>(AnnotationType::CuePoint, "goal");
+    right->ObjectId(3);
+    const Orvik::DataModel::MediaAssets::equal_to equal;
+    EXPECT_TRUE(equal(left, right));
+    right->TimeBounds(TimeBounds(TimeBoundary(TimePoint(1), true), TimeBoundary::Empty()));
+    EXPECT_FALSE(equal(left, right));
+}
+
+TEST(AnnotationClone, OwnsEqualCopiesOfTheProfilesWithObjectIdUnset)
+{
+    Annotation source(AnnotationType::CuePoint, "goal");
+    source.ObjectId(3);
+    source.Metadata().Set(std::make_shared<TestProfile>(1));
+    const Annotation clone = source.Clone();
+    EXPECT_EQ(clone, source);
+    EXPECT_EQ(clone.ObjectId(), -1);
+    EXPECT_NE(clone.Metadata().Values()[0], source.Metadata().Values()[0]);
+    const Annotation copy = source;
+    EXPECT_EQ(copy.Metadata().Values()[0], source.Metadata().Values()[0]) << "a plain copy shares profiles";
 }
