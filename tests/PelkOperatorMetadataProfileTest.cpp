@@ -1,14 +1,16 @@
 #include <Orvik/DataModel/MediaAssets/AnglesPelkOperatorMetadataProfile.h>
+#include <Orvik/DataModel/MediaAssets/Color.h>
 #include <Orvik/DataModel/MediaAssets/PelkOperatorMetadataProfile.h>
 
 #include "TestProfiles.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include <cstdint>
 #include <memory>
 #include <stdexcept>
 #include <type_traits>
+#include <vector>
 
 using namespace Orvik::DataModel::MediaAssets;
 using ::testing::ElementsAre;
@@ -77,7 +79,6 @@ TEST(PelkOperatorEquality, IgnoresProtectionFlagsAndObjectIdButNotKeywordOrder)
     copy.Keyword(0, "b");
     copy.Keyword(1, "a");
     EXPECT_FALSE(left.Equals(copy));
-    EXPECT_EQ(left.PelkId().ToString(), "123B/120");
 }
 
 TEST(PelkOperatorEquality, ProfilesOfAnotherClassAreNeverEqual)
@@ -124,16 +125,39 @@ TEST(PelkOperatorClone, IsEqualAndSharesNothing)
     EXPECT_FALSE(clone->Equals(source));
 }
 
-TEST(AnglesPelkOperatorEquality, ComparesServerPageBankAndClip)
+TEST(AnglesPelkOperatorEquality, ComparesServerPageBankAndClipAndHoldsForAClone)
 {
     const AnglesPelkOperatorMetadataProfile profile(PelkId(ZanServerId(10), 1, 2, 3));
+    EXPECT_TRUE(profile.Clone()->Equals(profile));
     EXPECT_TRUE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(10), 1, 2, 3))));
     EXPECT_FALSE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(20), 1, 2, 3))));
     EXPECT_FALSE(profile.Equals(AnglesPelkOperatorMetadataProfile(PelkId(ZanServerId(10), 1, 2, 4))));
 }
 
-TEST(AnglesPelkOperatorClone, IsEqualToItsSource)
+TEST(ColorPacking, IsAlphaRedGreenBlueFromTheHighByte)
 {
-    const AnglesPelkOperatorMetadataProfile source(PelkId(ZanServerId(10), 1, 2, 3));
-    EXPECT_TRUE(source.Clone()->Equals(source));
+    EXPECT_EQ(Color::Make(0x12, 0x34, 0x56), 0xFF123456u);
+    EXPECT_EQ(Color::Make(0x80, 0x12, 0x34, 0x56), 0x80123456u);
+    const uint32_t color = 0x80123456;
+    EXPECT_EQ(
+        (std::vector<int>{Color::GetAlpha(color), Color::GetRed(color), Color::GetGreen(color), Color::GetBlue(color)}),
+        (std::vector<int>{0x80, 0x12, 0x34, 0x56}));
+}
+
+TEST(ColorText, IsHashAndEightHexDigits)
+{
+    EXPECT_EQ(Color::ToString(Color::Magenta), "#FFFF00FF");
+    EXPECT_EQ(Color::ToString(Color::NotSet), "#00000000");
+    EXPECT_EQ(Color::Parse("#ff00ff00"), Color::Green);
+}
+
+TEST(ColorText, RefusedTextChangesNothingOrThrowsNamingIt)
+{
+    uint32_t color = Color::Red;
+    for (const char* text : {"", "#FFF", "FFFF00FF0", "#FFFF00FG", "#FFFF00FF ", " #FFFF00FF"}) {
+        SCOPED_TRACE(text);
+        EXPECT_FALSE(Color::TryParse(text, color));
+        EXPECT_EQ(color, Color::Red);
+    }
+    EXPECT_THAT([] { Color::Parse("red"); }, ThrowsMessage<std::invalid_argument>(StrEq("Invalid color 'red'.")));
 }
