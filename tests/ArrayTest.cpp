@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <initializer_list>
 #include <memory>
 #include <stdexcept>
 
@@ -16,11 +17,7 @@ struct Shape {
     static inline int comparisons = 0;
     virtual ~Shape() = default;
     virtual std::unique_ptr<Shape> Clone() const = 0;
-    virtual bool operator==(const Shape& other) const
-    {
-        ++comparisons;
-        return size == other.size;
-    }
+    virtual bool operator==(const Shape& other) const { return ++comparisons, size == other.size; }
     int size = 0;
     bool refuseClone = false;
 };
@@ -35,13 +32,20 @@ struct Square : Shape {
     }
 };
 
+Array<Shape> Squares(std::initializer_list<int> sizes)
+{
+    Array<Shape> array;
+    for (const int size : sizes)
+        array.Add(Square(size));
+    return array;
+}
+
 }  // namespace
 
 TEST(ArrayEquality, ChecksSizesFirstThenElementsInPosition)
 {
-    Array<Shape> left;
+    Array<Shape> left = Squares({1});
     Array<Shape> right;
-    left.Add(Square(1));
     Shape::comparisons = 0;
     EXPECT_FALSE(left == right);
     EXPECT_EQ(Shape::comparisons, 0);
@@ -54,8 +58,7 @@ TEST(ArrayEquality, ChecksSizesFirstThenElementsInPosition)
 
 TEST(ArrayCopy, DeepCopiesEveryElement)
 {
-    Array<Shape> source;
-    source.Add(Square(1));
+    const Array<Shape> source = Squares({1});
     Array<Shape> copy;
     copy.Copy(source);
     ASSERT_EQ(copy.Size(), 1);
@@ -65,12 +68,9 @@ TEST(ArrayCopy, DeepCopiesEveryElement)
 
 TEST(ArrayCopy, FailedCloneLeavesTheArrayAsItWas)
 {
-    Array<Shape> source;
-    source.Add(Square(1));
-    source.Add(Square(2));
+    Array<Shape> source = Squares({1, 2});
     source[1].refuseClone = true;
-    Array<Shape> copy;
-    copy.Add(Square(7));
+    Array<Shape> copy = Squares({7});
     EXPECT_THROW(copy.Copy(source), std::runtime_error);
     ASSERT_EQ(copy.Size(), 1);
     EXPECT_EQ(copy[0].size, 7);
@@ -93,10 +93,8 @@ TEST(ArrayIndexes, OutOfRangeThrowsNamingOperationIndexAndSize)
 
 TEST(ArrayAdopt, TakesTheElementsAndEmptiesTheOther)
 {
-    Array<Shape> array;
-    array.Add(Square(1));
-    Array<Shape> other;
-    other.Add(Square(2));
+    Array<Shape> array = Squares({1});
+    Array<Shape> other = Squares({2});
     other.Adopt(array);
     EXPECT_EQ(other.Size(), 2);
     EXPECT_EQ(other[1].size, 1);

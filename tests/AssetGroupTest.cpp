@@ -21,20 +21,15 @@ MediaAssetReference AssetReference(const char* id)
 
 }  // namespace
 
-TEST(AnglesMediaAssetGroup, WithoutTheProfileThrowsNamingIt)
+TEST(AnglesMediaAssetGroup, FindsOnlyTheAnglesProfileOrThrowsNamingIt)
 {
-    const AnglesMediaAssetGroup group;
+    AnglesMediaAssetGroup group(MediaAssetGroupId("g"));
     EXPECT_EQ(group.Type(), "AnglesMediaAssetGroup");
     EXPECT_FALSE(group.HasPelkOperatorMetadata());
     EXPECT_THAT([&] { group.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoOperatorMetadata)));
-}
-
-TEST(AnglesMediaAssetGroup, FindsOnlyTheAnglesProfile)
-{
-    AnglesMediaAssetGroup group(MediaAssetGroupId("g"));
     group.Metadata().Set(std::make_shared<PelkOperatorMetadataProfile>());
     EXPECT_FALSE(group.HasPelkOperatorMetadata());
-    EXPECT_THROW(group.PelkOperatorMetadata(), std::runtime_error);
+    EXPECT_THAT([&] { group.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoOperatorMetadata)));
     auto profile = std::make_shared<AnglesPelkOperatorMetadataProfile>(PelkId(ZanServerId(10), 1, 2, 3));
     group.Metadata().Set(profile);
     EXPECT_TRUE(group.HasPelkOperatorMetadata());

@@ -1,6 +1,5 @@
 #include <Orvik/BusinessEntityModel/BaseTypes/FullyQualifiedName.h>
 #include <Orvik/BusinessEntityModel/BaseTypes/Identifier.h>
-#include <Orvik/BusinessEntityModel/BaseTypes/PersistentObject.h>
 #include <Orvik/BusinessEntityModel/BaseTypes/Utf8String.h>
 
 #include <gtest/gtest.h>
@@ -21,10 +20,8 @@ TEST(IdentifierOrder, IsByteOrderWithPrefixFirstAndNoCaseFolding)
     EXPECT_LT(Identifier(), Identifier("0"));
 }
 
-TEST(IdentifierEmpty, DefaultIsTheSharedEmptyIdentifier)
+TEST(IdentifierEmpty, IsOneSharedObjectAndANulByteIsNotEmpty)
 {
-    EXPECT_TRUE(Identifier().IsEmpty());
-    EXPECT_EQ(Identifier(), Identifier::Empty());
     EXPECT_EQ(&Identifier::Empty(), &Identifier::Empty());
     EXPECT_FALSE(Identifier(std::string("\0", 1)).IsEmpty());
 }
@@ -73,9 +70,3 @@ TEST(FullyQualifiedNameBuilders, JoinWithTheGivenSeparators)
     EXPECT_EQ(FullyQualifiedName::CombinePath("a", "b").Value(), "a/b");
     EXPECT_EQ(FullyQualifiedName::CombinePath("", "b").Value(), "b");
 }
-
-namespace {
-struct Entity : PersistentObject {};
-}  // namespace
-
-TEST(PersistentObject, StartsUnstored) { EXPECT_EQ(Entity().ObjectId(), -1); }

@@ -44,22 +44,11 @@ TEST(LocationEquality, DerivedClassesAreComparedByTheirOwnUri)
     EXPECT_EQ(mirrored, MirroredLocation(ZanServerId(120), "A7F3"));
 }
 
-TEST(FileLocationEquality, ComparesEveryField)
-{
-    FileLocation left;
-    left.Name("clip.mxf");
-    left.Size(1024);
-    left.LastAccessDate(100);
-    auto right = left.Clone();
-    EXPECT_EQ(left, *right);
-    static_cast<FileLocation&>(*right).LastAccessDate(101);
-    EXPECT_NE(left, *right);
-}
-
-TEST(LocationClone, IsAnEqualLocationOfTheSameKind)
+TEST(LocationClone, IsAnEqualIndependentLocationOfTheSameKind)
 {
     FileLocation file;
     file.Name("clip.mxf");
+    file.LastAccessDate(100);
     DaxContentTrackLocation track;
     ASSERT_TRUE(track.InitFromUri("storage://S1/P2/T3"));
     DaxProtectLocation protectedItem;
@@ -71,15 +60,13 @@ TEST(LocationClone, IsAnEqualLocationOfTheSameKind)
         EXPECT_EQ(clone->GetType(), source->GetType());
         EXPECT_EQ(*clone, *source);
     }
-}
-
-TEST(LocationClone, IsIndependentOfItsSource)
-{
-    const ZanLocation source(ZanServerId(120), "A7F3");
-    const auto clone = source.Clone();
-    static_cast<ZanLocation&>(*clone).SequenceId("B000");
-    EXPECT_EQ(source.SequenceId(), "A7F3");
-    EXPECT_NE(*clone, source);
+    const auto fileClone = file.Clone();
+    static_cast<FileLocation&>(*fileClone).LastAccessDate(101);
+    EXPECT_NE(*fileClone, file) << "every field of a file location counts";
+    const auto clipClone = clip.Clone();
+    static_cast<ZanLocation&>(*clipClone).SequenceId("B000");
+    EXPECT_EQ(clip.SequenceId(), "A7F3");
+    EXPECT_NE(*clipClone, clip);
 }
 
 TEST(ZanLocationUri, IsSerialSlashSequenceAsGiven)

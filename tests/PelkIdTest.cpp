@@ -2,10 +2,10 @@
 #include <Orvik/DataModel/MediaAssets/Utils/ZanServerId.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 using namespace Orvik::DataModel::MediaAssets;
 using ::testing::StrEq;
@@ -93,13 +93,9 @@ TEST(PelkIdText, WrapsUnsetAndOutOfRangeFieldsInEightBits)
 
 TEST(PelkIdPosition, SplitsIntoPageBankAndRow)
 {
-    PelkId id(456, 'C');
-    EXPECT_EQ(id.Page(), 4);
-    EXPECT_EQ(id.Bank(), 5);
-    EXPECT_EQ(id.Row(), 6);
-    EXPECT_EQ(id.Position(), 456);
-    EXPECT_EQ(id.Channel(), 3);
-    EXPECT_EQ(id.Index(), 456 * 12 + 2);
+    const PelkId id(456, 'C');
+    EXPECT_EQ((std::vector<int>{id.Page(), id.Bank(), id.Row(), id.Position(), id.Channel(), id.Index()}),
+              (std::vector<int>{4, 5, 6, 456, 3, 456 * 12 + 2}));
     EXPECT_NE(id, PelkId(456, 'D'));
 }
 

@@ -37,6 +37,8 @@ SortedVector<Keyed> Inserted(std::initializer_list<Keyed> elements)
     return vector;
 }
 
+std::shared_ptr<Keyed> Shared(int key, const char* label) { return std::make_shared<Keyed>(Keyed{key, label}); }
+
 std::vector<std::string> Labels(const SortedVector<Keyed>& vector)
 {
     std::vector<std::string> labels;
@@ -50,14 +52,6 @@ std::vector<std::string> Labels(const SortedVector<Keyed>& vector)
 TEST(SortedVectorInsert, KeepsLessOrderWhateverTheInsertionOrder)
 {
     EXPECT_THAT(Labels(Inserted({{2, "b"}, {1, "a"}, {3, "c"}})), ElementsAre("a", "b", "c"));
-}
-
-TEST(SortedVectorInsert, IntoEmptyVectorComparesNothing)
-{
-    SortedVector<Keyed> vector;
-    Keyed::comparisons = 0;
-    vector.Insert(Keyed{1, "a"});
-    EXPECT_EQ(Keyed::comparisons, 0);
 }
 
 TEST(SortedVectorInsert, RefusesEqualElementAtLowerBoundAndStaysUnchanged)
@@ -98,12 +92,10 @@ TEST(SortedVectorLookup, FindsTheEqualElementAmongSameKeys)
 
 TEST(SortedVectorLookup, OutOfRangeIndexThrowsNamingIndexAndSize)
 {
-    EXPECT_THAT(
-        [] {
-            Inserted({{3, "x"}, {3, "y"}}).At(2);
-        },
-        ThrowsMessage<std::out_of_range>(
-            StrEq("Orvik::DataModel::MediaAssets::SortedVector::CheckIndex: index 2 out of range for size 2")));
+    const auto vector = Inserted({{3, "x"}, {3, "y"}});
+    EXPECT_THAT([&] { vector.At(2); },
+                ThrowsMessage<std::out_of_range>(
+                    StrEq("Orvik::DataModel::MediaAssets::SortedVector::CheckIndex: index 2 out of range for size 2")));
 }
 
 TEST(SortedVectorReplace, MovesElementToItsNewPlaceOrLeavesVectorUnchanged)
@@ -119,32 +111,22 @@ TEST(SortedVectorReplace, MovesElementToItsNewPlaceOrLeavesVectorUnchanged)
 TEST(SortedVectorSharedPointer, OrdersAndComparesPointeesNotAddresses)
 {
     SortedVectorSharedPointer<Keyed> left;
-    left.Insert(std::make_shared<Keyed>(Keyed{2, "b"}));
-    left.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
+    left.Insert(Shared(2, "b"));
+    left.Insert(Shared(1, "a"));
     EXPECT_EQ(left.Front()->label, "a");
-    EXPECT_THAT(
-        [&] {
-            left.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
-        },
-        ThrowsMessage<std::runtime_error>(StrEq(kDuplicate)));
+    EXPECT_THAT([&] { left.Insert(Shared(1, "a")); }, ThrowsMessage<std::runtime_error>(StrEq(kDuplicate)));
     SortedVectorSharedPointer<Keyed> right;
-    right.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
-    right.Insert(std::make_shared<Keyed>(Keyed{2, "b"}));
+    right.Insert(Shared(1, "a"));
+    right.Insert(Shared(2, "b"));
     EXPECT_TRUE(left == right);
-}
-
-TEST(SortedVectorSharedPointer, CopySharesThePointees)
-{
-    SortedVectorSharedPointer<Keyed> vector;
-    vector.Insert(std::make_shared<Keyed>(Keyed{1, "a"}));
-    const SortedVectorSharedPointer<Keyed> copy = vector;
-    EXPECT_EQ(copy.Front().get(), vector.Front().get());
+    const SortedVectorSharedPointer<Keyed> copy = left;
+    EXPECT_EQ(copy.Front().get(), left.Front().get()) << "a copy shares the pointees";
 }
 
 TEST(SortedVectorWeakPointer, ExpiredPointeeThrowsOnInsertAndCompare)
 {
-    auto kept = std::make_shared<Keyed>(Keyed{1, "a"});
-    auto released = std::make_shared<Keyed>(Keyed{2, "b"});
+    auto kept = Shared(1, "a");
+    auto released = Shared(2, "b");
     SortedVectorWeakPointer<Keyed> vector;
     vector.Insert(kept);
     vector.Insert(released);
@@ -152,16 +134,16 @@ TEST(SortedVectorWeakPointer, ExpiredPointeeThrowsOnInsertAndCompare)
     EXPECT_TRUE(copy == vector);
     released.reset();
     EXPECT_THAT([&] { (void)(copy == vector); }, ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
-    EXPECT_THAT(
-        [&] {
-            vector.Insert(std::make_shared<Keyed>(Keyed{3, "c"}));
-        },
-        ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
+    EXPECT_THAT([&] { vector.Insert(Shared(3, "c")); }, ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
 }
 
-TEST(SortedVectorWeakPointer, EmptyVectorTakesAnExpiredPointer)
+TEST(SortedVectorInsert, IntoAnEmptyVectorComparesNothingSoItTakesEvenAnExpiredPointer)
 {
+    SortedVector<Keyed> vector;
+    Keyed::comparisons = 0;
+    vector.Insert(Keyed{1, "a"});
+    EXPECT_EQ(Keyed::comparisons, 0);
     SortedVectorWeakPointer<Keyed> empty;
     empty.Insert(std::weak_ptr<Keyed>());
-    EXPECT_EQ(empty.Size(), 1u) << "an empty vector compares nothing";
+    EXPECT_EQ(empty.Size(), 1u);
 }
