@@ -24,32 +24,31 @@ namespace Model = DataModel::MediaAssets;
 
 namespace {
 
-// How many values each enumeration has (its numbers run from 0).
-constexpr uint64_t kAnnotationTypes = 2;
-constexpr uint64_t kArchiveStatuses = 3;
-constexpr uint64_t kAssetTypes = 3;
-constexpr uint64_t kAudioCodingFormats = 9;
-constexpr uint64_t kBitRateModes = 3;
-constexpr uint64_t kBoxings = 9;
-constexpr uint64_t kChromaSubSamplings = 8;
-constexpr uint64_t kColorSpaces = 9;
-constexpr uint64_t kFillAndKeyTypes = 3;
-constexpr uint64_t kResourceFormats = 2;
-constexpr uint64_t kScanModes = 3;
-constexpr uint64_t kTimeCodeStandards = 4;
-constexpr uint64_t kTimecodePrimaries = 3;
-constexpr uint64_t kUserTimecodeTypes = 3;
-constexpr uint64_t kVideoCodingFormats = 54;
-constexpr uint64_t kWrapperFormats = 36;
-
 // Characters that texts are made of: plain ones, the ones a printer must escape, a two-byte and a
 // three-byte UTF-8 sequence.
 const char* const kPieces[] = {"a", "B", "z", "0", "7", " ", "-", "/", ".", "\"", "\\", "\n", "\xC3\xA9", "\xE2\x82\xAC"};
 
+// Any value of E. Its numbers run from 0, and the first number past the end reads as value 0's
+// text, so the library's own table gives the count.
 template <typename E>
-E Pick(ArbitraryObjects& any, uint64_t count)
+E Pick(ArbitraryObjects& any)
 {
+    static const uint64_t count = [] {
+        uint64_t values = 1;
+        while (ToString(static_cast<E>(values)) != ToString(static_cast<E>(0)))
+            ++values;
+        return values;
+    }();
     return static_cast<E>(any.Below(count));
+}
+
+// Calls `add(i)` for each i below a number below `limit`.
+template <typename Add>
+void Repeat(ArbitraryObjects& any, uint64_t limit, Add add)
+{
+    const uint64_t count = any.Below(limit);
+    for (uint64_t i = 0; i < count; ++i)
+        add(i);
 }
 
 int32_t SmallInt(ArbitraryObjects& any)
@@ -150,39 +149,44 @@ Model::TimeBoundsArray ArbitraryObjects::TimeBoundsArray()
     Model::TimeBoundsArray array;
     array.InBoundary(Boundary());
     array.OutBoundary(Boundary());
-    const uint64_t count = Below(4);
-    for (uint64_t i = 0; i < count; ++i) {
+    Repeat(*this, 4, [&](uint64_t) {
         const Model::TimeBounds bounds = Bounds();
         if (std::find(array.begin(), array.end(), bounds) == array.end())
             array.Insert(bounds);
-    }
+    });
     return array;
+}
+
+// The fields that both operator profiles have: the object id, the server and the clip.
+template <typename Profile>
+Profile ClipProfile(ArbitraryObjects& any)
+{
+    Profile profile;
+    profile.ObjectId(any.Between(-1, 1000));
+    profile.ServerId(Model::ZanServerId(static_cast<int>(any.Between(0, 3) * 10)));
+    profile.Page(SmallInt(any));
+    profile.Bank(SmallInt(any));
+    profile.Clip(SmallInt(any));
+    return profile;
 }
 
 Model::PelkOperatorMetadataProfile ArbitraryObjects::PelkOperatorProfile()
 {
-    Model::PelkOperatorMetadataProfile profile;
-    profile.ObjectId(Between(-1, 1000));
-    profile.ServerId(Model::ZanServerId(static_cast<int>(Between(0, 3) * 10)));
-    profile.Page(SmallInt(*this));
-    profile.Bank(SmallInt(*this));
-    profile.Clip(SmallInt(*this));
+    auto profile = ClipProfile<Model::PelkOperatorMetadataProfile>(*this);
     profile.Camera(Flip() ? '\0' : static_cast<char>('A' + Below(12)));
     profile.UmId(Text());
     profile.VarId(Text());
     profile.Rating(SmallInt(*this));
-    profile.ArchiveStatus(Pick<Model::ArchiveStatus>(*this, kArchiveStatuses));
-    profile.UserTimecodeType(Pick<Model::UserTimecodeType>(*this, kUserTimecodeTypes));
-    profile.PrimaryTimecode(Pick<Model::TimecodePrimary>(*this, kTimecodePrimaries));
+    profile.ArchiveStatus(Pick<Model::ArchiveStatus>(*this));
+    profile.UserTimecodeType(Pick<Model::UserTimecodeType>(*this));
+    profile.PrimaryTimecode(Pick<Model::TimecodePrimary>(*this));
     profile.UserTimecode(Timecode());
     profile.TodTimecode(Timecode());
     profile.Icon(Text());
     profile.Color(static_cast<uint32_t>(Draw(4)));
-    profile.FillAndKeyType(Pick<Model::FillAndKeyType>(*this, kFillAndKeyTypes));
+    profile.FillAndKeyType(Pick<Model::FillAndKeyType>(*this));
     profile.FillAndKeyMediaAssetId(Model::Identifier(Text()));
-    const uint64_t keywords = Below(7);
-    for (uint64_t i = 0; i < keywords; ++i)
-        profile.Keyword(i, Text());
+    Repeat(*this, 7, [&](uint64_t i) { profile.Keyword(i, Text()); });
     profile.UserProtected(Flip());
     profile.PelkUIProtected(Flip());
     return profile;
@@ -190,13 +194,7 @@ Model::PelkOperatorMetadataProfile ArbitraryObjects::PelkOperatorProfile()
 
 Model::AnglesPelkOperatorMetadataProfile ArbitraryObjects::AnglesPelkOperatorProfile()
 {
-    Model::AnglesPelkOperatorMetadataProfile profile;
-    profile.ObjectId(Between(-1, 1000));
-    profile.ServerId(Model::ZanServerId(static_cast<int>(Between(0, 3) * 10)));
-    profile.Page(SmallInt(*this));
-    profile.Bank(SmallInt(*this));
-    profile.Clip(SmallInt(*this));
-    return profile;
+    return ClipProfile<Model::AnglesPelkOperatorMetadataProfile>(*this);
 }
 
 void ArbitraryObjects::FillMetadata(Model::MetadataProfileDictionary& dictionary)
@@ -224,15 +222,14 @@ Model::TimeCodeTable ArbitraryObjects::TimeCodeTable()
 {
     Model::TimeCodeTable table;
     table.FullyQualifiedName(Model::FullyQualifiedName(Text()));
-    table.Standard(Pick<Model::TimeCodeStandard>(*this, kTimeCodeStandards));
+    table.Standard(Pick<Model::TimeCodeStandard>(*this));
     table.Type(Text());
-    const uint64_t jumps = Below(4);
-    for (uint64_t i = 0; i < jumps; ++i) {
+    Repeat(*this, 4, [&](uint64_t i) {
         // Distinct time points: a jump equal to the one at its place would be refused.
         const Model::TimePoint point(static_cast<int64_t>(i) * 40000000 + Between(0, 39999999));
         table.TimeCodeJumpItems().Insert(
             std::make_shared<Model::TimeCodeJump>(point, Model::TimeCodeString(TimeCodeText()), Between(-1, 100000)));
-    }
+    });
     return table;
 }
 
@@ -242,9 +239,9 @@ std::unique_ptr<Model::Essence> ArbitraryObjects::Essence(const std::vector<std:
     switch (Below(3)) {
     case 0: {
         auto audio = std::make_unique<Model::AudioEssence>();
-        audio->AudioCodec(Pick<Model::AudioCodingFormat>(*this, kAudioCodingFormats));
+        audio->AudioCodec(Pick<Model::AudioCodingFormat>(*this));
         audio->BitRate(SmallInt(*this));
-        audio->BitRateMode(Pick<Model::BitRateMode>(*this, kBitRateModes));
+        audio->BitRateMode(Pick<Model::BitRateMode>(*this));
         audio->SampleRate(Model::Rate(SmallInt(*this), SmallInt(*this)));
         audio->BitDepth(SmallInt(*this));
         audio->FourCC(Text());
@@ -256,19 +253,19 @@ std::unique_ptr<Model::Essence> ArbitraryObjects::Essence(const std::vector<std:
         break;
     default: {
         auto video = std::make_unique<Model::VideoEssence>();
-        video->VideoCodec(Pick<Model::VideoCodingFormat>(*this, kVideoCodingFormats));
+        video->VideoCodec(Pick<Model::VideoCodingFormat>(*this));
         video->BitRate(SmallInt(*this));
-        video->BitRateMode(Pick<Model::BitRateMode>(*this, kBitRateModes));
+        video->BitRateMode(Pick<Model::BitRateMode>(*this));
         video->BitDepth(SmallInt(*this));
         video->FrameRate(Model::Rate(SmallInt(*this), SmallInt(*this)));
         video->Height(SmallInt(*this));
         video->Width(SmallInt(*this));
-        video->ChromaSubSampling(Pick<Model::ChromaSubSampling>(*this, kChromaSubSamplings));
-        video->ColorSpace(Pick<Model::ColorSpace>(*this, kColorSpaces));
-        video->ScanMode(Pick<Model::ScanMode>(*this, kScanModes));
+        video->ChromaSubSampling(Pick<Model::ChromaSubSampling>(*this));
+        video->ColorSpace(Pick<Model::ColorSpace>(*this));
+        video->ScanMode(Pick<Model::ScanMode>(*this));
         video->FourCC(Text());
         video->AspectRatio(Model::AspectRatio(SmallInt(*this), SmallInt(*this)));
-        video->Boxing(Pick<Model::Boxing>(*this, kBoxings));
+        video->Boxing(Pick<Model::Boxing>(*this));
         essence = std::move(video);
         break;
     }
@@ -277,24 +274,24 @@ std::unique_ptr<Model::Essence> ArbitraryObjects::Essence(const std::vector<std:
     essence->ChannelCount(SmallInt(*this));
     essence->Nr(static_cast<int32_t>(Between(-2, 4)));
     FillMetadata(essence->Metadata());
-    const uint64_t channels = Below(4);
-    for (uint64_t i = 0; i < channels; ++i)  // distinct numbers: no refused duplicate
+    Repeat(*this, 4, [&](uint64_t i) {  // distinct numbers: no refused duplicate
         essence->TrackChannels().Insert(
             std::make_shared<Model::TrackChannel>(Model::Identifier(Text()), static_cast<int32_t>(i) * 3 - 1));
+    });
     for (const auto& table : tables)  // a table equal to one already there would be refused
         if (Flip() && essence->Timecodes().ConstFind(table) == essence->Timecodes().end())
             essence->Timecodes().Insert(table);
     return essence;
 }
 
-std::unique_ptr<Model::Essence> ArbitraryObjects::Essence()
+std::vector<std::shared_ptr<Model::TimeCodeTable>> ArbitraryObjects::SharedTimeCodeTables()
 {
     std::vector<std::shared_ptr<Model::TimeCodeTable>> tables;
-    const uint64_t count = Below(3);
-    for (uint64_t i = 0; i < count; ++i)
-        tables.push_back(std::make_shared<Model::TimeCodeTable>(TimeCodeTable()));
-    return Essence(tables);
+    Repeat(*this, 3, [&](uint64_t) { tables.push_back(std::make_shared<Model::TimeCodeTable>(TimeCodeTable())); });
+    return tables;
 }
+
+std::unique_ptr<Model::Essence> ArbitraryObjects::Essence() { return Essence(SharedTimeCodeTables()); }
 
 std::unique_ptr<Model::Location> ArbitraryObjects::Location()
 {
@@ -332,20 +329,12 @@ Model::Stream ArbitraryObjects::Stream(size_t index)
 {
     Model::Stream stream(Id("stream-", index));
     stream.ObjectId(Between(-1, 1000));
-    stream.Format(Pick<Model::WrapperFormat>(*this, kWrapperFormats));
+    stream.Format(Pick<Model::WrapperFormat>(*this));
     stream.Timebounds(TimeBoundsArray());
     FillMetadata(stream.Metadata());
-    // The essences of a stream share its timecode tables.
-    std::vector<std::shared_ptr<Model::TimeCodeTable>> tables;
-    const uint64_t tableCount = Below(3);
-    for (uint64_t i = 0; i < tableCount; ++i)
-        tables.push_back(std::make_shared<Model::TimeCodeTable>(TimeCodeTable()));
-    const uint64_t essences = Below(4);
-    for (uint64_t i = 0; i < essences; ++i)
-        stream.Essences().Add(Essence(tables));
-    const uint64_t locations = Below(3);
-    for (uint64_t i = 0; i < locations; ++i)
-        stream.Locations().Add(Location());
+    const auto tables = SharedTimeCodeTables();  // shared by the stream's essences
+    Repeat(*this, 4, [&](uint64_t) { stream.Essences().Add(Essence(tables)); });
+    Repeat(*this, 3, [&](uint64_t) { stream.Locations().Add(Location()); });
     return stream;
 }
 
@@ -356,14 +345,13 @@ Model::MediaResource ArbitraryObjects::MediaResource(size_t index, size_t firstS
     Model::MediaResource resource(Id("resource-", index));
     resource.ObjectId(Between(-1, 1000));
     resource.Name(Text());
-    resource.GeneralFormat(Pick<Model::ResourceFormat>(*this, kResourceFormats));
-    const uint64_t streams = Below(4);
-    for (uint64_t i = 0; i < streams; ++i) {
+    resource.GeneralFormat(Pick<Model::ResourceFormat>(*this));
+    Repeat(*this, 4, [&](uint64_t i) {
         if (Below(4) == 0)
             resource.Add(Id("stream-", firstStream + i));
         else
             resource.Adopt(std::make_unique<Model::Stream>(Stream(firstStream + i)));
-    }
+    });
     resource.Timebounds(TimeBoundsArray());
     resource.CreationDate(Between(0, 2000000000));
     resource.ModificationDate(Between(0, 2000000000));
@@ -377,8 +365,7 @@ Model::Track ArbitraryObjects::Track(size_t index, const std::vector<std::shared
 {
     Model::Track track(Id("track-", index), Text());
     track.ObjectId(Between(-1, 1000));
-    const uint64_t channels = Below(4);
-    for (uint64_t i = 0; i < channels; ++i) {
+    Repeat(*this, 4, [&](uint64_t i) {
         auto channel = std::make_shared<Model::TrackChannelToRemove>();
         const uint64_t choice = Below(streams.size() + 2);
         if (choice < streams.size())
@@ -388,7 +375,7 @@ Model::Track ArbitraryObjects::Track(size_t index, const std::vector<std::shared
         channel->EssenceNr(static_cast<int32_t>(Between(-1, 3)));
         channel->ChannelNr(static_cast<int32_t>(Between(-1, 8)));
         track.Channels().push_back(std::move(channel));
-    }
+    });
     return track;
 }
 
@@ -404,8 +391,7 @@ Model::TrackLayout ArbitraryObjects::TrackLayout(size_t index, const std::vector
 {
     Model::TrackLayout layout(Id("layout-", index), Text());
     layout.ObjectId(Between(-1, 1000));
-    const uint64_t items = Below(3);
-    for (uint64_t i = 0; i < items; ++i) {
+    Repeat(*this, 3, [&](uint64_t i) {
         Model::TrackLayoutItem item(Id("item-", i));
         item.ObjectId(Between(-1, 1000));
         item.Name(Text());
@@ -413,23 +399,21 @@ Model::TrackLayout ArbitraryObjects::TrackLayout(size_t index, const std::vector
             if (Flip())
                 item.Tracks().Insert(track);
         layout.TrackLayoutItems().Insert(item);
-    }
+    });
     return layout;
 }
 
 Model::TrackLayout ArbitraryObjects::TrackLayout()
 {
     std::vector<std::shared_ptr<Model::Track>> tracks;
-    const uint64_t count = Below(3);
-    for (uint64_t i = 0; i < count; ++i)
-        tracks.push_back(std::make_shared<Model::Track>(Track(i, {})));
+    Repeat(*this, 3, [&](uint64_t i) { tracks.push_back(std::make_shared<Model::Track>(Track(i, {}))); });
     keptTracks.insert(keptTracks.end(), tracks.begin(), tracks.end());
     return TrackLayout(0, tracks);
 }
 
 Model::Annotation ArbitraryObjects::Annotation()
 {
-    Model::Annotation annotation(Pick<Model::AnnotationType>(*this, kAnnotationTypes), Text());
+    Model::Annotation annotation(Pick<Model::AnnotationType>(*this), Text());
     annotation.ObjectId(Between(-1, 1000));
     annotation.TimeBounds(Bounds());
     FillMetadata(annotation.Metadata());
@@ -440,7 +424,7 @@ Model::MediaAsset ArbitraryObjects::MediaAsset()
 {
     Model::MediaAsset asset{Model::MediaAssetId(Text())};
     asset.ObjectId(Between(-1, 1000));
-    asset.AssetType(Pick<Model::AssetType>(*this, kAssetTypes));
+    asset.AssetType(Pick<Model::AssetType>(*this));
     asset.Ancestor(AssetReference());
     asset.Parent(AssetReference());
     asset.Name(Text());
@@ -451,31 +435,24 @@ Model::MediaAsset ArbitraryObjects::MediaAsset()
     FillMetadata(asset.Metadata());
 
     std::vector<std::shared_ptr<Model::Stream>> streams;
-    const uint64_t resources = Below(3);
-    for (uint64_t r = 0; r < resources; ++r) {
+    Repeat(*this, 3, [&](uint64_t r) {
         if (Below(4) == 0) {
             asset.MediaResources().Insert(Model::MediaResourceReference(Id("resource-", r)));
-            continue;
+            return;
         }
         auto resource = std::make_shared<Model::MediaResource>(MediaResource(r, r * 10));
         for (auto& stream : resource->Streams())
             if (stream.Pointer())
                 streams.push_back(stream.Pointer());
         asset.MediaResources().Insert(Model::MediaResourceReference(resource));
-    }
-
+    });
     std::vector<std::shared_ptr<Model::Track>> tracks;
-    const uint64_t trackCount = Below(4);
-    for (uint64_t t = 0; t < trackCount; ++t) {
-        tracks.push_back(std::make_shared<Model::Track>(Track(t, streams)));
-        asset.Tracks().Insert(tracks.back());
-    }
-    const uint64_t layouts = Below(3);
-    for (uint64_t l = 0; l < layouts; ++l)
-        asset.TrackLayouts().Insert(std::make_shared<Model::TrackLayout>(TrackLayout(l, tracks)));
-    const uint64_t annotations = Below(3);
-    for (uint64_t a = 0; a < annotations; ++a)
-        asset.Annotations().push_back(std::make_shared<Model::Annotation>(Annotation()));
+    Repeat(*this, 4, [&](uint64_t t) { tracks.push_back(std::make_shared<Model::Track>(Track(t, streams))); });
+    for (const auto& track : tracks)
+        asset.Tracks().Insert(track);
+    Repeat(*this, 3,
+           [&](uint64_t l) { asset.TrackLayouts().Insert(std::make_shared<Model::TrackLayout>(TrackLayout(l, tracks))); });
+    Repeat(*this, 3, [&](uint64_t) { asset.Annotations().push_back(std::make_shared<Model::Annotation>(Annotation())); });
     return asset;
 }
 
@@ -501,8 +478,7 @@ std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::Group(bool angles)
     group->ObjectId(Between(-1, 1000));
     group->Name(Text());
     FillMetadata(group->Metadata());
-    const uint64_t items = Below(4);
-    for (uint64_t i = 0; i < items; ++i) {
+    Repeat(*this, 4, [&](uint64_t) {
         std::shared_ptr<Model::MediaAssetGroupItem> item;
         if (angles ? Below(4) != 0 : Flip())
             item = std::make_shared<Model::AnglesMediaAssetGroupItem>(Text(), AssetReference());
@@ -510,7 +486,7 @@ std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::Group(bool angles)
             item = std::make_shared<Model::MediaAssetGroupItem>(AssetReference());
         item->ObjectId(Between(-1, 1000));
         group->Items().push_back(std::move(item));
-    }
+    });
     return group;
 }
 

@@ -81,6 +81,8 @@ private:
     DataModel::MediaAssets::Timecode Timecode();
     std::string TimeCodeText();
     void FillMetadata(DataModel::MediaAssets::MetadataProfileDictionary& dictionary);
+    /// Timecode tables for the essences of one stream to share.
+    std::vector<std::shared_ptr<DataModel::MediaAssets::TimeCodeTable>> SharedTimeCodeTables();
     std::unique_ptr<DataModel::MediaAssets::Essence>
     Essence(const std::vector<std::shared_ptr<DataModel::MediaAssets::TimeCodeTable>>& tables);
     DataModel::MediaAssets::Stream Stream(size_t index);
