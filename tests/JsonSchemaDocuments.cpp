@@ -12,6 +12,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <map>
 #include <string>
 
 using namespace Orvik::DataModel::MediaAssets;
@@ -21,35 +22,36 @@ namespace {
 
 void Save(const fs::path& path, const std::string& document) { std::ofstream(path, std::ios::binary) << document; }
 
+const MediaAssetGroup& Deref(const std::shared_ptr<MediaAssetGroup>& group) { return *group; }
+template <typename T>
+const T& Deref(const T& value)
+{
+    return value;
+}
+
 // Both forms of the object that `text` describes, as `<stem>.compact.json` and `<stem>.indented.json`.
-template <typename T, typename Write>
-void SaveBoth(const fs::path& folder, const std::string& stem, const std::string& text, Write&& write)
+template <typename T>
+void SaveBoth(const fs::path& folder, const std::string& stem, const std::string& text)
 {
     const T value = Json::FromJson<T>(text);
-    Save(folder / (stem + ".compact.json"), write(value, Json::Layout::Compact));
-    Save(folder / (stem + ".indented.json"), write(value, Json::Layout::Indented));
+    Save(folder / (stem + ".compact.json"), Json::ToJson(Deref(value), Json::Layout::Compact));
+    Save(folder / (stem + ".indented.json"), Json::ToJson(Deref(value), Json::Layout::Indented));
 }
+
+const std::map<std::string, void (*)(const fs::path&, const std::string&, const std::string&)> kSaveBySchema = {
+    {"MediaAsset", SaveBoth<MediaAsset>},
+    {"MediaResource", SaveBoth<MediaResource>},
+    {"Stream", SaveBoth<Stream>},
+    {"MediaAssetGroup", SaveBoth<std::shared_ptr<MediaAssetGroup>>},
+    {"PelkOperatorMetadataProfile", SaveBoth<PelkOperatorMetadataProfile>},
+    {"AnglesPelkOperatorMetadataProfile", SaveBoth<AnglesPelkOperatorMetadataProfile>},
+};
 
 void Rewrite(const fs::path& file, const fs::path& folder)
 {
     std::ifstream in(file, std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    const std::string stem = file.stem().string();
-    const std::string schema = Json::SchemaName(text);
-    const auto plain = [](const auto& value, Json::Layout layout) { return Json::ToJson(value, layout); };
-    if (schema == "MediaAsset")
-        SaveBoth<MediaAsset>(folder, stem, text, plain);
-    else if (schema == "MediaResource")
-        SaveBoth<MediaResource>(folder, stem, text, plain);
-    else if (schema == "Stream")
-        SaveBoth<Stream>(folder, stem, text, plain);
-    else if (schema == "PelkOperatorMetadataProfile")
-        SaveBoth<PelkOperatorMetadataProfile>(folder, stem, text, plain);
-    else if (schema == "AnglesPelkOperatorMetadataProfile")
-        SaveBoth<AnglesPelkOperatorMetadataProfile>(folder, stem, text, plain);
-    else
-        SaveBoth<std::shared_ptr<MediaAssetGroup>>(
-            folder, stem, text, [](const auto& group, Json::Layout layout) { return Json::ToJson(*group, layout); });
+    kSaveBySchema.at(Json::SchemaName(text))(folder, file.stem().string(), text);
 }
 
 void WriteGenerated(const fs::path& folder, uint64_t seeds)
