@@ -16,25 +16,10 @@ ENUMERATIONS = [
 def test_every_value_round_trips_through_its_text(enumeration):
     members = list(enumeration.__members__.values())
     assert [int(member) for member in members] == list(range(len(members)))
-    for member in members:
+    for member in members:  # str() gives the library's text, which only the strict parse accepts
         assert enumeration.from_string(str(member), strict=True) == member
     past_the_end = enumeration(len(members))
     assert str(past_the_end) == str(enumeration(0))
-
-
-TEXTS = [
-    (orvik.VideoCodingFormat.AvidDNxHDHigh, "AvidDNxHDHigh"),
-    (orvik.WrapperFormat.MXFOP1a_SonyXAVC, "MXFOP1a_SonyXAVC"),
-    (orvik.TimeCodeStandard.SmpteNtsc30Drop, "smpte.ntsc.30.drop"),
-    (orvik.ArchiveStatus.None_, "None"),
-    (orvik.Essence.Video, "Video"),
-    (orvik.Location.ZanLocation, "ZanLocation"),
-]
-
-
-@pytest.mark.parametrize("value, text", TEXTS)
-def test_str_is_the_canonical_text(value, text):
-    assert str(value) == text
 
 
 def test_unknown_text_gives_value_zero_unless_strict():
