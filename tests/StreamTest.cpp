@@ -32,15 +32,11 @@ Stream MakeStream(bool videoFirst = false)
 
 }  // namespace
 
-TEST(StreamEquality, IgnoresObjectId)
+TEST(StreamEquality, IgnoresObjectIdAndComparesEssencesAndLocationsInPositionAndByKind)
 {
-    Stream right = MakeStream();
-    right.ObjectId(8);
-    EXPECT_EQ(MakeStream(), right);
-}
-
-TEST(StreamEquality, EssencesAndLocationsCompareInPositionAndByKind)
-{
+    Stream renumbered = MakeStream();
+    renumbered.ObjectId(8);
+    EXPECT_EQ(MakeStream(), renumbered);
     EXPECT_NE(MakeStream(), MakeStream(true));
     Stream other = MakeStream();
     other.Locations().Replace(0, std::make_unique<FileLocation>());

@@ -55,15 +55,3 @@ TEST(StringAssociationTables, FirstPairOfAValueWinsAndATextMapsBackToTheSmallerV
     EXPECT_EQ(converter.ToEnum("ignored", failed), Shade::none);
     EXPECT_TRUE(failed);
 }
-
-TEST(StringAssociationLookup, IsExactAndReturnsTheSameStringObject)
-{
-    const auto& converter = WithoutFallback();
-    bool failed = false;
-    for (const char* text : {"Light", "light ", " light", "LIGHT"}) {
-        SCOPED_TRACE(text);
-        converter.ToEnum(text, failed);
-        EXPECT_TRUE(failed);
-    }
-    EXPECT_EQ(&converter.ToString(Shade::light), &converter.ToString(Shade::light));
-}
