@@ -23,10 +23,11 @@ MediaAssetReference AssetReference(const char* id)
 
 TEST(AnglesMediaAssetGroup, FindsOnlyTheAnglesProfileOrThrowsNamingIt)
 {
-    AnglesMediaAssetGroup group(MediaAssetGroupId("g"));
+    AnglesMediaAssetGroup group;
+    const AnglesMediaAssetGroup& view = group;
     EXPECT_EQ(group.Type(), "AnglesMediaAssetGroup");
     EXPECT_FALSE(group.HasPelkOperatorMetadata());
-    EXPECT_THAT([&] { group.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoOperatorMetadata)));
+    EXPECT_THAT([&] { view.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoOperatorMetadata)));
     group.Metadata().Set(std::make_shared<PelkOperatorMetadataProfile>());
     EXPECT_FALSE(group.HasPelkOperatorMetadata());
     EXPECT_THAT([&] { group.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoOperatorMetadata)));

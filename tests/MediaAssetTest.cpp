@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 using namespace Orvik::DataModel::MediaAssets;
 using ::testing::StrEq;
@@ -111,7 +112,7 @@ TEST_F(PopulatedAsset, CloneDeepCopiesResourcesAnnotationsAndProfiles)
     EXPECT_NE(clone.MediaResources()[1].Pointer(), resource);
     EXPECT_NE(clone.Annotations()[0], source.Annotations()[0]);
     EXPECT_EQ(clone.Annotations()[0]->ObjectId(), -1);
-    EXPECT_NE(&clone.PelkOperatorMetadata(), &source.PelkOperatorMetadata());
+    EXPECT_NE(&std::as_const(clone).PelkOperatorMetadata(), &source.PelkOperatorMetadata());
 }
 
 TEST(MediaAssetEquality, LooksAtIdsOfReferencesAndNotAtObjectId)

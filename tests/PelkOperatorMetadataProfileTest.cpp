@@ -79,6 +79,7 @@ TEST(PelkOperatorEquality, IgnoresProtectionFlagsAndObjectIdButNotKeywordOrder)
     copy.Keyword(0, "b");
     copy.Keyword(1, "a");
     EXPECT_FALSE(left.Equals(copy));
+    EXPECT_EQ(left.PelkId().ToString(), "123B/120") << "the identifier is kept in its fields";
 }
 
 TEST(PelkOperatorEquality, ProfilesOfAnotherClassAreNeverEqual)

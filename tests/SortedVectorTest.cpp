@@ -92,7 +92,7 @@ TEST(SortedVectorLookup, FindsTheEqualElementAmongSameKeys)
 
 TEST(SortedVectorLookup, OutOfRangeIndexThrowsNamingIndexAndSize)
 {
-    const auto vector = Inserted({{3, "x"}, {3, "y"}});
+    auto vector = Inserted({{3, "x"}, {3, "y"}});
     EXPECT_THAT([&] { vector.At(2); },
                 ThrowsMessage<std::out_of_range>(
                     StrEq("Orvik::DataModel::MediaAssets::SortedVector::CheckIndex: index 2 out of range for size 2")));

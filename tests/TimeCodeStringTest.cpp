@@ -31,6 +31,7 @@ TEST(TimeCodeStringSet, RefusalKeepsTheStoredText)
     TimeCodeString timeCode("10:00:00:00");
     EXPECT_THROW(timeCode.Set("25:00:00:00"), std::runtime_error);
     EXPECT_EQ(timeCode.Value(), "10:00:00:00");
+    EXPECT_TRUE(TimeCodeString().IsEmpty());
 }
 
 namespace {
