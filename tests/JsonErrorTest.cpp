@@ -9,6 +9,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <sstream>
 #include <string>
 
@@ -18,23 +20,19 @@ using ::testing::ThrowsMessage;
 
 namespace {
 
-// The compact document of tests/data/stream.json, which each case below changes in one place.
-constexpr char kStream[] =
-    R"({"schema":{"name":"Stream","version":1},"objectId":5,"streamId":"stream-alone","format":"QuickTime",)"
-    R"("timebounds":{"inBoundary":{"timePoint":-9223372036854775807,"isMoving":false},)"
-    R"("outBoundary":{"timePoint":-9223372036854775807,"isMoving":false},"elements":[]},"metadata":{},)"
-    R"("essences":[{"type":"Audio","objectId":1,"metadata":{},"channelCount":1,"nr":0,)"
-    R"("trackChannels":[{"trackId":"t","channelNr":1}],"timecodes":[{"fqn":"tc.a","standard":"smpte.ntsc.30.drop",)"
-    R"("type":"LTC","timeCodeJumpItems":[{"timePoint":0,"timeCode":"01:00:00;00","duration":100}]}],)"
-    R"("audioCodec":"PCM","bitRate":1536000,"bitRateMode":"cbr","sampleRate":{"numerator":48000,"denominator":1},)"
-    R"("bitDepth":24,"fourCC":"lpcm"},{"type":"Audio","objectId":2,"metadata":{},"channelCount":0,"nr":1,)"
-    R"("trackChannels":[],"timecodes":["/essences/0/timecodes/0"],"audioCodec":"PCM","bitRate":1536000,)"
-    R"("bitRateMode":"cbr","sampleRate":{"numerator":48000,"denominator":1},"bitDepth":24,"fourCC":"lpcm"}],)"
-    R"("locations":[{"type":"ZanLocation","serverId":120,"sequenceId":"A7F3"}]})";
+// The compact form of tests/data/stream.json, which each case below changes in one place.
+const std::string& StreamDocument()
+{
+    static const std::string document = [] {
+        std::ifstream in(std::string(ORVIK_TEST_DATA_DIR) + "/stream.json", std::ios::binary);
+        return Json::ToJson(Json::FromJson<Stream>(std::string(std::istreambuf_iterator<char>(in), {})));
+    }();
+    return document;
+}
 
 std::string Changed(const std::string& from, const std::string& to)
 {
-    std::string document = kStream;
+    std::string document = StreamDocument();
     const size_t at = document.find(from);
     if (at == std::string::npos)
         throw std::logic_error("no " + from);
@@ -62,10 +60,10 @@ TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
     const BadInput cases[] = {
         {"malformed", Changed(R"("nr":0,)", R"("nr":0,,)"), "/essences/0",
          R"(/essences/0: expected a member, found malformed JSON (The JSON document has an improper structure: missing or superfluous commas, braces, missing keys, etc.))"},
-        {"truncated", std::string(kStream).substr(0, 200), "",
+        {"truncated", StreamDocument().substr(0, 200), "",
          R"((root): expected a JSON document, found malformed JSON (A string is opened, but never closed.))"},
         {"not an object", "[1,2]", "", R"((root): expected an object, found an array)"},
-        {"trailing text", std::string(kStream) + "{}", "", R"((root): expected the end of the document, found more text)"},
+        {"trailing text", StreamDocument() + "{}", "", R"((root): expected the end of the document, found more text)"},
         {"wrong type", Changed(R"("bitDepth":24,"fourCC":"lpcm"},{)", R"("bitDepth":"24","fourCC":"lpcm"},{)"),
          "/essences/0/bitDepth", R"(/essences/0/bitDepth: expected an integer, found a string)"},
         {"fraction", Changed(R"("channelCount":0)", R"("channelCount":0.5)"), "/essences/1/channelCount",
@@ -127,12 +125,12 @@ TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
 
 TEST(JsonMemberNames, AnEscapedNameIsThePlainName)
 {
-    EXPECT_EQ(Json::FromJson<Stream>(Changed(R"("format")", R"("\u0066ormat")")), Json::FromJson<Stream>(kStream));
+    EXPECT_EQ(Json::FromJson<Stream>(Changed(R"("format")", R"("\u0066ormat")")), Json::FromJson<Stream>(StreamDocument()));
 }
 
 TEST(JsonBadInput, SchemaNameNeedsTheSchemaMemberFirst)
 {
-    EXPECT_EQ(Json::SchemaName(kStream), "Stream");
+    EXPECT_EQ(Json::SchemaName(StreamDocument()), "Stream");
     EXPECT_THAT([] { Json::SchemaName(R"({"objectId":1})"); },
                 ThrowsMessage<Json::JsonError>(StrEq(R"((root): expected member "schema" first, found "objectId")")));
 }
