@@ -82,6 +82,7 @@ TEST(PelkIdTryParse, FailureMayLeaveTheFieldsReadButNeverTheServer)
 TEST(PelkIdText, WrapsUnsetAndOutOfRangeFieldsInEightBits)
 {
     EXPECT_EQ(PelkId::Empty().ToString(), "////0");
+    EXPECT_TRUE(PelkId().IsEmpty());
     EXPECT_EQ(PelkId(ZanServerId(120), 1, 2, 3, 'B').ToString(), "123B/120");
     EXPECT_EQ(PelkId(1, 2, 3).ToShortString(), "123");
     EXPECT_EQ(PelkId(ZanServerId(-10), 1, 2, 3).ToString(), "123/-10");
