@@ -91,8 +91,9 @@ T& Deref(const std::shared_ptr<T>& pointer)
 // allocation in turn; after every failure the object must equal a second one made from the same
 // seed, but for the emptied essence metadata.
 template <typename Make, typename Operation>
-void ExpectFailuresLeaveTheSource(uint64_t seeds, Make make, Operation operation)
+void ExpectFailuresLeaveTheSource(const char* what, Make make, Operation operation, uint64_t seeds = kSeeds)
 {
+    SCOPED_TRACE(what);
     uint64_t failures = 0;
     for (uint64_t seed = 1; seed <= seeds; ++seed) {
         const auto source = make(Any(seed));
@@ -112,37 +113,38 @@ void ExpectFailuresLeaveTheSource(uint64_t seeds, Make make, Operation operation
 TEST(AllocationFailure, FailedClonesAndCopiesLeaveTheSourceAsDocumented)
 {
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.MediaAsset(); }, [](const MediaAsset& a) { a.Clone(); });
+        "asset clone", [](Any any) { return any.MediaAsset(); }, [](const MediaAsset& a) { a.Clone(); });
     // A layout's items point at the tracks of the asset that holds it.
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.MediaAsset(); },
+        "layout clones", [](Any any) { return any.MediaAsset(); },
         [](const MediaAsset& a) {
             for (const auto& layout : a.TrackLayouts())
                 layout->Clone();
         });
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.MediaResource(); }, [](const MediaResource& r) { r.Clone(); });
+        "resource clone", [](Any any) { return any.MediaResource(); }, [](const MediaResource& r) { r.Clone(); });
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.Stream(); }, [](const Stream& s) { s.Clone(); });
+        "stream clone", [](Any any) { return any.Stream(); }, [](const Stream& s) { s.Clone(); });
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.Stream(); }, [](const Stream& s) { Stream copy(s); });
+        "stream copy", [](Any any) { return any.Stream(); }, [](const Stream& s) { Stream copy(s); });
     ExpectFailuresLeaveTheSource(
-        3 * kSeeds, [](Any any) { return any.Essence(); }, [](const Essence& e) { e.Clone(); });
+        "essence clone", [](Any any) { return any.Essence(); }, [](const Essence& e) { e.Clone(); }, 3 * kSeeds);
     ExpectFailuresLeaveTheSource(
-        3 * kSeeds, [](Any any) { return any.Location(); }, [](const Location& l) { l.Clone(); });
+        "location clone", [](Any any) { return any.Location(); }, [](const Location& l) { l.Clone(); }, 3 * kSeeds);
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.Track(); }, [](const Track& t) { t.Clone(); });
+        "track clone", [](Any any) { return any.Track(); }, [](const Track& t) { t.Clone(); });
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.Annotation(); }, [](const Annotation& a) { a.Clone(); });
+        "annotation clone", [](Any any) { return any.Annotation(); }, [](const Annotation& a) { a.Clone(); });
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.PelkOperatorProfile(); }, [](const PelkOperatorMetadataProfile& p) { p.Clone(); });
+        "profile clone", [](Any any) { return any.PelkOperatorProfile(); }, [](const MetadataProfile& p) { p.Clone(); });
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.AnglesPelkOperatorProfile(); },
-        [](const AnglesPelkOperatorMetadataProfile& p) { p.Clone(); });
+        "angles profile clone", [](Any any) { return any.AnglesPelkOperatorProfile(); },
+        [](const MetadataProfile& p) { p.Clone(); });
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.MediaAssetGroup(); }, [](const MediaAssetGroup& g) { MediaAssetGroup copy(g); });
+        "group copy", [](Any any) { return any.MediaAssetGroup(); },
+        [](const MediaAssetGroup& g) { MediaAssetGroup copy(g); });
     ExpectFailuresLeaveTheSource(
-        kSeeds, [](Any any) { return any.AnglesMediaAssetGroup(); },
+        "angles group copy", [](Any any) { return any.AnglesMediaAssetGroup(); },
         [](const MediaAssetGroup& g) { MediaAssetGroup copy(g); });
 }
 
