@@ -11,7 +11,6 @@
 #include <gmock/gmock.h>
 
 #include <cstdint>
-#include <cstdio>
 #include <limits>
 #include <ostream>
 #include <random>
@@ -45,6 +44,12 @@ std::string Label(const Rate& rate, int64_t sample, bool isDrop)
     return SmpteTimeCodeFormatter().Format(TimeCode(rate, sample, isDrop, false));
 }
 
+void WriteTwoDigits(std::string& text, size_t position, int value)
+{
+    text[position] = static_cast<char>('0' + value / 10);
+    text[position + 1] = static_cast<char>('0' + value % 10);
+}
+
 struct PointText {
     int64_t nanoseconds;
     const char* text;
@@ -66,26 +71,34 @@ TEST_P(TimeCodeDay, EveryFrameRoundTripsAndOnlySkippedLabelsAreRefused)
     const SmpteTimeCodeParser parser(counting.rate);
     const SmpteTimeCodeFormatter formatter;
     const int dropped = counting.isDrop ? counting.nominal / 15 : 0;
+    std::string label = "00:00:00:00";
+    label[8] = counting.isDrop ? ';' : ':';
     int64_t next = 0;
-    char label[48];
-    for (int i = 0; i < 86400 * counting.nominal; ++i) {
-        const int frame = i % counting.nominal, second = i / counting.nominal % 60;
-        const int minute = i / counting.nominal / 60 % 60, hour = i / counting.nominal / 3600;
-        std::snprintf(label, sizeof label, "%02d:%02d:%02d%c%02d", hour, minute, second, counting.isDrop ? ';' : ':', frame);
-        const bool skipped = second == 0 && minute % 10 != 0 && frame < dropped;
-        const auto [read, timeCode] = parser.TryParse(label);
-        if (read == skipped) {
-            FAIL() << label << (skipped ? " is read" : " is refused");
+    for (int hour = 0; hour < 24; ++hour) {
+        WriteTwoDigits(label, 0, hour);
+        for (int minute = 0; minute < 60; ++minute) {
+            WriteTwoDigits(label, 3, minute);
+            for (int second = 0; second < 60; ++second) {
+                WriteTwoDigits(label, 6, second);
+                for (int frame = 0; frame < counting.nominal; ++frame) {
+                    WriteTwoDigits(label, 9, frame);
+                    const bool skipped = second == 0 && minute % 10 != 0 && frame < dropped;
+                    const auto [read, timeCode] = parser.TryParse(label);
+                    if (read == skipped) {
+                        FAIL() << label << (skipped ? " is read" : " is refused");
+                    }
+                    if (skipped)
+                        continue;
+                    const TimeCode expected(counting.rate, next, counting.isDrop, false);
+                    if (timeCode != expected || formatter.Format(expected) != label || expected.Hour() != hour
+                        || expected.Minute() != minute || expected.Second() != second || expected.Sample() != frame) {
+                        FAIL() << label << " and frame " << next << " do not match: read " << timeCode.TotalSample()
+                               << ", written " << formatter.Format(expected);
+                    }
+                    ++next;
+                }
+            }
         }
-        if (skipped)
-            continue;
-        const TimeCode expected(counting.rate, next, counting.isDrop, false);
-        if (timeCode != expected || formatter.Format(expected) != label || expected.Hour() != hour
-            || expected.Minute() != minute || expected.Second() != second || expected.Sample() != frame) {
-            FAIL() << label << " and frame " << next << " do not match: read " << timeCode.TotalSample() << ", written "
-                   << formatter.Format(expected);
-        }
-        ++next;
     }
     EXPECT_EQ(Label(counting.rate, next, counting.isDrop), counting.isDrop ? "00:00:00;00" : "00:00:00:00")
         << "the next day starts again";
