@@ -97,7 +97,8 @@ Path MutateMetadata(MetadataProfileDictionary& dictionary, Any& any, const std::
     return field == nullptr ? Path() : Path(entry + field);
 }
 
-// Technical metadata is shared with the source since the copy: the change goes to an own dictionary.
+// Technical metadata may be shared with the source (an essence's is, since Clone()): the change
+// goes to a dictionary of the target's own.
 template <typename T>
 Path MutateOwnMetadata(T& owner, Any& any, const std::string& path)
 {
