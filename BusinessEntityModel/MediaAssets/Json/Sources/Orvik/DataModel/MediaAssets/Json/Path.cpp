@@ -1,24 +1,29 @@
 #include "Path.h"
 
+#include <charconv>
+
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 std::string Path::ToString() const
 {
     std::string text;
-    for (const Segment& segment : segments) {
+    text.reserve(64);
+    for (size_t at = 0; at < depth; ++at) {
+        const Segment& segment = segments[at];
         text += '/';
         if (segment.isIndex) {
-            text += std::to_string(segment.index);
+            char digits[20];
+            const auto end = std::to_chars(digits, digits + sizeof digits, segment.index).ptr;
+            text.append(digits, end);
             continue;
         }
-        for (const char c : segment.name) {
-            if (c == '~')
-                text += "~0";
-            else if (c == '/')
-                text += "~1";
-            else
-                text += c;
+        std::string_view name = segment.name;
+        for (size_t special = name.find_first_of("~/"); special != std::string_view::npos;
+             special = name.find_first_of("~/")) {
+            text.append(name, 0, special).append(name[special] == '~' ? "~0" : "~1");
+            name.remove_prefix(special + 1);
         }
+        text += name;
     }
     return text;
 }

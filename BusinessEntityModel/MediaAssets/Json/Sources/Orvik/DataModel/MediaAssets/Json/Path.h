@@ -12,12 +12,12 @@ namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 class Path {
 public:
-    Path() { segments.reserve(16); }
+    Path() : segments(16) {}
 
     /// The name must outlive its segment.
-    void PushName(std::string_view name) { segments.push_back({name, 0, false}); }
-    void PushIndex(size_t index) { segments.push_back({{}, index, true}); }
-    void Pop() { segments.pop_back(); }
+    void PushName(std::string_view name) { Push({name, 0, false}); }
+    void PushIndex(size_t index) { Push({{}, index, true}); }
+    void Pop() { --depth; }
 
     /// "/mediaResources/2/pointer"; "" for the whole document. "~" and "/" in names are escaped.
     std::string ToString() const;
@@ -28,7 +28,17 @@ private:
         size_t index;
         bool isIndex;
     };
+    // Pushed and popped once per value read or written: the segments are kept, and only the
+    // depth moves.
+    void Push(const Segment& segment)
+    {
+        if (depth == segments.size())
+            segments.resize(2 * depth);
+        segments[depth++] = segment;
+    }
+
     std::vector<Segment> segments;
+    size_t depth = 0;
 };
 
 /// Pushes a segment for the lifetime of the scope.
