@@ -4,7 +4,6 @@
 #include <Orvik/DataModel/MediaAssets/Json/SchemaName.h>
 
 #include <cstring>
-#include <limits>
 #include <new>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
@@ -78,20 +77,6 @@ void Reader::GiveBack::operator()(Workspace* workspace) const noexcept
         SpareWorkspace().reset(workspace);
 }
 
-int64_t Reader::Int64(value v) { return Take(v.get_int64(), "an integer", &v); }
-
-int32_t Reader::Int32(value v)
-{
-    const int64_t number = Int64(v);
-    if (number < std::numeric_limits<int32_t>::min() || number > std::numeric_limits<int32_t>::max())
-        Fail("expected an integer from -2147483648 to 2147483647, found " + std::to_string(number));
-    return static_cast<int32_t>(number);
-}
-
-bool Reader::Bool(value v) { return Take(v.get_bool(), "true or false", &v); }
-
-std::string_view Reader::String(value v) { return Take(v.get_string(), "a string", &v); }
-
 std::string_view Reader::RawObject(value v)
 {
     auto object = Take(v.get_object(), "an object", &v);
@@ -155,16 +140,13 @@ value Reader::First(Rest& rest, std::string_view name)
     return field.value();
 }
 
-size_t Reader::Find(simdjson::ondemand::field& field, const std::string_view* names, size_t count, size_t next)
+size_t Reader::Find(simdjson::ondemand::field& field, const std::string_view* names, const MemberKey* keys, size_t count)
 {
-    // The member names hold neither quotes nor backslashes, so a name equals the key's text as it
-    // stands in the document exactly when the key has no escapes and is that name; only a key
-    // that matches no name that way is unescaped (a name written with escapes, or an unknown one).
-    const simdjson::ondemand::raw_json_string raw = field.key();
-    if (next < count && raw.unsafe_is_equal(names[next]))
-        return next;
+    // Only a key that matches no name as written (a name written with escapes, or an unknown one)
+    // is unescaped.
+    const char* const raw = field.key().raw();
     for (size_t index = 0; index < count; ++index)
-        if (raw.unsafe_is_equal(names[index]))
+        if (keys[index].Matches(raw))
             return index;
     const std::string_view key = Take(field.unescaped_key(), "a member name");
     for (size_t index = 0; index < count; ++index)
@@ -187,6 +169,11 @@ void Reader::Fail(simdjson::error_code error, std::string_view expected, value* 
     else
         message += std::string("malformed JSON (") + simdjson::error_message(error) + ")";
     Fail(message);
+}
+
+void Reader::OutOfInt32(int64_t number) const
+{
+    Fail("expected an integer from -2147483648 to 2147483647, found " + std::to_string(number));
 }
 
 void Reader::Unexpected(std::string_view key)

@@ -11,7 +11,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <limits>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <typeinfo>
@@ -22,18 +25,67 @@ namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 using simdjson::ondemand::value;
 
+/// A member name as the words of text that a key spelled exactly so starts with in the document,
+/// its closing quote included: a key is matched by at most three word comparisons. Names hold
+/// neither quotes nor backslashes, so such a key has no escapes and is the name itself.
+class MemberKey {
+public:
+    constexpr MemberKey() = default;
+    constexpr explicit MemberKey(std::string_view name)
+    {
+        if (name.size() >= kWords * sizeof(uint64_t))
+            throw std::length_error("member name too long");
+        for (size_t at = 0; at <= name.size(); ++at) {
+            const auto byte = static_cast<uint64_t>(static_cast<unsigned char>(at < name.size() ? name[at] : '"'));
+            const size_t shift = 8 * (__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__ ? at % 8 : 7 - at % 8);
+            words[at / 8] |= byte << shift;
+            masks[at / 8] |= uint64_t{0xFF} << shift;
+        }
+        count = name.size() / 8 + 1;
+    }
+
+    /// Whether the key whose text starts at `raw`, in a document padded as simdjson requires, is
+    /// this name written without escapes.
+    bool Matches(const char* raw) const noexcept
+    {
+        for (size_t index = 0; index < count; ++index) {
+            uint64_t word = 0;
+            std::memcpy(&word, raw + index * sizeof(uint64_t), sizeof(uint64_t));
+            if ((word & masks[index]) != words[index])
+                return false;
+        }
+        return true;
+    }
+
+private:
+    static constexpr size_t kWords = 3;
+    std::array<uint64_t, kWords> words{};
+    std::array<uint64_t, kWords> masks{};
+    size_t count = 0;
+};
+
+template <size_t N>
+constexpr std::array<MemberKey, N> KeysOf(const std::array<std::string_view, N>& names)
+{
+    std::array<MemberKey, N> keys{};
+    for (size_t index = 0; index < N; ++index)
+        keys[index] = MemberKey(names[index]);
+    return keys;
+}
+
 /// The member names of one kind of object, in document order; members whose bit is set in
 /// `optional` may be absent.
 template <size_t N>
 struct Members {
+    static_assert(N <= 64, "one bit per member");
     std::array<std::string_view, N> names;
     uint64_t optional = 0;
+    std::array<MemberKey, N> keys = KeysOf(names);
 };
 
 template <typename... Names>
 constexpr Members<sizeof...(Names)> MemberNames(Names... names)
 {
-    static_assert(sizeof...(Names) <= 64, "one bit per member");
     return Members<sizeof...(Names)>{{std::string_view(names)...}, 0};
 }
 
@@ -128,7 +180,10 @@ public:
         size_t next = 0;
         for (; rest.it != rest.end; ++rest.it) {
             auto field = Take(*rest.it, "a member");
-            const size_t index = Find(field, members.names.data(), N, next);
+            // Members come in the order written, so the one after the last is tried first.
+            const size_t index = next < N && members.keys[next].Matches(field.key().raw())
+                ? next
+                : Find(field, members.names.data(), members.keys.data(), N);
             const uint64_t bit = uint64_t{1} << index;
             if ((seen & bit) != 0)
                 Duplicate(members.names[index]);
@@ -170,11 +225,17 @@ public:
         }
     }
 
-    int64_t Int64(value v);
-    int32_t Int32(value v);
-    bool Bool(value v);
+    int64_t Int64(value v) { return Take(v.get_int64(), "an integer", &v); }
+    int32_t Int32(value v)
+    {
+        const int64_t number = Int64(v);
+        if (number < std::numeric_limits<int32_t>::min() || number > std::numeric_limits<int32_t>::max())
+            OutOfInt32(number);
+        return static_cast<int32_t>(number);
+    }
+    bool Bool(value v) { return Take(v.get_bool(), "true or false", &v); }
     /// Valid until the next string is read.
-    std::string_view String(value v);
+    std::string_view String(value v) { return Take(v.get_string(), "a string", &v); }
     std::string Text(value v) { return std::string(String(v)); }
     /// The text of the object `v` exactly as the document holds it.
     std::string_view RawObject(value v);
@@ -184,11 +245,26 @@ public:
     template <typename E>
     E Enumeration(value v, E (*convert)(const std::string&, bool&), std::string_view name)
     {
-        const std::string text(String(v));
+        // A document repeats the same few texts of an enumeration, and a lookup in the model's
+        // table costs a few hundred instructions: the last text that `convert` accepted on this
+        // thread is remembered.
+        struct Accepted {
+            E (*convert)(const std::string&, bool&) = nullptr;
+            std::string text;
+            E value{};
+        };
+        thread_local Accepted last;
+        const std::string_view text = String(v);
+        if (last.convert == convert && last.text == text)
+            return last.value;
+        last.convert = nullptr;
+        last.text = text;
         bool failed = false;
-        const E result = convert(text, failed);
+        const E result = convert(last.text, failed);
         if (failed)
-            Fail("expected a " + std::string(name) + " text, found \"" + text + "\"");
+            Fail("expected a " + std::string(name) + " text, found \"" + last.text + "\"");
+        last.convert = convert;
+        last.value = result;
         return result;
     }
 
@@ -232,15 +308,16 @@ private:
     };
 
     [[noreturn]] void Fail(simdjson::error_code error, std::string_view expected, value* v) const;
+    [[noreturn]] void OutOfInt32(int64_t number) const;
     void CheckSchema(value v);
     /// The members of the top-level object.
     Rest OpenRoot();
     /// The value of the first member of `rest`, which must be named `name`; the caller moves past
     /// it once the value is read.
     value First(Rest& rest, std::string_view name);
-    /// The index among `names` of the member `field`, looked for from `next` first; refuses a
-    /// name that is not among them.
-    size_t Find(simdjson::ondemand::field& field, const std::string_view* names, size_t count, size_t next);
+    /// The index among `names` (whose keys are `keys`) of the member `field`; refuses a name that
+    /// is not among them.
+    size_t Find(simdjson::ondemand::field& field, const std::string_view* names, const MemberKey* keys, size_t count);
     [[noreturn]] void Unexpected(std::string_view key);
     /// Refuses the member `key` of the current object as met a second time.
     [[noreturn]] void Duplicate(std::string_view key);
