@@ -1,5 +1,6 @@
 #include "Path.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
@@ -17,13 +18,14 @@ std::string Path::ToString() const
             text.append(digits, end);
             continue;
         }
-        std::string_view name = segment.name;
-        for (size_t special = name.find_first_of("~/"); special != std::string_view::npos;
-             special = name.find_first_of("~/")) {
-            text.append(name, 0, special).append(name[special] == '~' ? "~0" : "~1");
-            name.remove_prefix(special + 1);
+        const auto escaped = [](char c) { return c == '~' || c == '/'; };
+        auto run = segment.name.begin();
+        for (auto special = std::find_if(run, segment.name.end(), escaped); special != segment.name.end();
+             special = std::find_if(run, segment.name.end(), escaped)) {
+            text.append(run, special).append(*special == '~' ? "~0" : "~1");
+            run = special + 1;
         }
-        text += name;
+        text.append(run, segment.name.end());
     }
     return text;
 }
