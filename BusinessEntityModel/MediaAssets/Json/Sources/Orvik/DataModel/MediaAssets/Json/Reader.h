@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <deque>
 #include <limits>
 #include <memory>
 #include <stdexcept>
@@ -272,18 +273,19 @@ public:
     template <typename T>
     void Register(const std::shared_ptr<T>& object)
     {
-        shared.insert_or_assign(path.ToString(), Entry{&typeid(T), object});
+        paths.push_back(path.ToString());
+        shared.insert_or_assign(paths.back(), Entry{&typeid(T), object});
     }
     /// The object of class T written at the JSON pointer that `v` holds; refuses a pointer to
     /// anything else, described to the reader as `what`.
     template <typename T>
     std::shared_ptr<T> Referenced(value v, std::string_view what)
     {
-        const std::string pointer(String(v));
+        const std::string_view pointer = String(v);
         const auto found = shared.find(pointer);
         if (found == shared.end() || *found->second.type != typeid(T))
-            Fail("expected a JSON pointer to " + std::string(what) + " written earlier in the document, found \"" + pointer
-                 + "\"");
+            Fail("expected a JSON pointer to " + std::string(what) + " written earlier in the document, found \""
+                 + std::string(pointer) + "\"");
         return std::static_pointer_cast<T>(found->second.object);
     }
 
@@ -327,7 +329,10 @@ private:
     LentWorkspace workspace;
     simdjson::ondemand::document document;
     Path path;
-    std::unordered_map<std::string, Entry> shared;
+    // The paths of the registered objects; a deque never moves its strings, so the keys of
+    // `shared` may view them, and a pointer is looked up without a copy.
+    std::deque<std::string> paths;
+    std::unordered_map<std::string_view, Entry> shared;
 };
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail
