@@ -143,7 +143,7 @@ TrackLayoutItem ReadItem(Reader& r, value v)
     item.ObjectId(objectId);
     item.Name(name);
     const PathSegment segment(r.CurrentPath(), "tracks");
-    InsertInDocumentOrder(r, item.Tracks(), tracks);
+    InsertInDocumentOrder(r, item.Tracks(), tracks.data(), tracks.size());
     return item;
 }
 
@@ -172,9 +172,8 @@ std::shared_ptr<TrackLayout> ReadLayout(Reader& r, value v)
             layout->Name(r.Text(member));
             break;
         default: {
-            std::vector<TrackLayoutItem> items;
-            r.Array(member, [&](value element) { items.push_back(ReadItem(r, element)); });
-            InsertInDocumentOrder(r, layout->TrackLayoutItems(), items);
+            ReadInDocumentOrder<TrackLayoutItem>(r, member, layout->TrackLayoutItems(),
+                                                 [&](value element) { return ReadItem(r, element); });
         }
         }
     });
@@ -280,21 +279,18 @@ void ReadMembers(Reader& r, Reader::Rest& rest, MediaAsset& asset)
             Read(r, v, asset.Metadata());
             break;
         case 11: {
-            std::vector<MediaResourceReference> references;
-            r.Array(v, [&](value element) { references.push_back(ReadResourceReference(r, element)); });
-            InsertInDocumentOrder(r, asset.MediaResources(), references);
+            ReadInDocumentOrder<MediaResourceReference>(r, v, asset.MediaResources(),
+                                                        [&](value element) { return ReadResourceReference(r, element); });
             break;
         }
         case 12: {
-            std::vector<std::shared_ptr<Track>> tracks;
-            r.Array(v, [&](value element) { tracks.push_back(ReadTrack(r, element)); });
-            InsertInDocumentOrder(r, asset.Tracks(), tracks);
+            ReadInDocumentOrder<std::shared_ptr<Track>>(r, v, asset.Tracks(),
+                                                        [&](value element) { return ReadTrack(r, element); });
             break;
         }
         case 13: {
-            std::vector<std::shared_ptr<TrackLayout>> layouts;
-            r.Array(v, [&](value element) { layouts.push_back(ReadLayout(r, element)); });
-            InsertInDocumentOrder(r, asset.TrackLayouts(), layouts);
+            ReadInDocumentOrder<std::shared_ptr<TrackLayout>>(r, v, asset.TrackLayouts(),
+                                                              [&](value element) { return ReadLayout(r, element); });
             break;
         }
         default:

@@ -76,13 +76,13 @@ SharedReference<T> MakeReference(const std::shared_ptr<T>& object, const Identif
     return reference;
 }
 
-/// Inserts `items`, read in document order, into the sorted `vector` so that it ends in that same
-/// order: from the last to the first, as an insert goes in front of the elements that sort equal.
-/// An element that the vector refuses is reported at its index.
+/// Inserts the `count` elements at `items`, read in document order, into the sorted `vector` so
+/// that it ends in that same order: from the last to the first, as an insert goes in front of the
+/// elements that sort equal. An element that the vector refuses is reported at its index.
 template <typename Vector, typename T>
-void InsertInDocumentOrder(Reader& r, Vector& vector, const std::vector<T>& items)
+void InsertInDocumentOrder(Reader& r, Vector& vector, const T* items, size_t count)
 {
-    for (size_t index = items.size(); index-- > 0;) {
+    for (size_t index = count; index-- > 0;) {
         try {
             vector.Insert(items[index]);
         } catch (const std::runtime_error&) {
@@ -90,6 +90,23 @@ void InsertInDocumentOrder(Reader& r, Vector& vector, const std::vector<T>& item
             r.Fail("expected an element that no other element of the collection equals");
         }
     }
+}
+
+/// Reads the array `v`, each element as `read(element)` gives it, into the sorted `vector` in
+/// document order. The elements wait in a buffer of the thread's for their type, kept between
+/// arrays (an array read while another one waits goes above it), so an array needs no
+/// allocation of its own.
+template <typename T, typename Vector, typename Read>
+void ReadInDocumentOrder(Reader& r, value v, Vector& vector, Read&& read)
+{
+    thread_local std::vector<T> pending;
+    struct Release {
+        std::vector<T>& pending;
+        const size_t start;
+        ~Release() { pending.erase(pending.begin() + static_cast<std::ptrdiff_t>(start), pending.end()); }
+    } const release{pending, pending.size()};
+    r.Array(v, [&](value element) { pending.push_back(read(element)); });
+    InsertInDocumentOrder(r, vector, pending.data() + release.start, pending.size() - release.start);
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -51,8 +51,7 @@ void ReadBase(Reader& r, size_t index, value v, Essence& essence)
         essence.Nr(r.Int32(v));
         break;
     case 4: {
-        std::vector<std::shared_ptr<TrackChannel>> channels;
-        r.Array(v, [&](value element) {
+        ReadInDocumentOrder<std::shared_ptr<TrackChannel>>(r, v, essence.TrackChannels(), [&](value element) {
             auto channel = std::make_shared<TrackChannel>();
             r.Object(element, kTrackChannelMembers, [&](size_t member, value field) {
                 if (member == 0)
@@ -60,15 +59,13 @@ void ReadBase(Reader& r, size_t index, value v, Essence& essence)
                 else
                     channel->ChannelNr(r.Int32(field));
             });
-            channels.push_back(std::move(channel));
+            return channel;
         });
-        InsertInDocumentOrder(r, essence.TrackChannels(), channels);
         break;
     }
     default: {
-        std::vector<std::shared_ptr<TimeCodeTable>> tables;
-        r.Array(v, [&](value element) { tables.push_back(ReadTimeCodeTable(r, element)); });
-        InsertInDocumentOrder(r, essence.Timecodes(), tables);
+        ReadInDocumentOrder<std::shared_ptr<TimeCodeTable>>(r, v, essence.Timecodes(),
+                                                            [&](value element) { return ReadTimeCodeTable(r, element); });
     }
     }
 }

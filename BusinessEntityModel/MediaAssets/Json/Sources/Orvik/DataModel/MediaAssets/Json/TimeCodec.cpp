@@ -76,9 +76,7 @@ void Read(Reader& r, value v, TimeBoundsArray& array)
             array.OutBoundary(ReadTimeBoundary(r, member));
             break;
         default: {
-            std::vector<TimeBounds> elements;
-            r.Array(member, [&](value element) { elements.push_back(ReadTimeBounds(r, element)); });
-            InsertInDocumentOrder(r, array, elements);
+            ReadInDocumentOrder<TimeBounds>(r, member, array, [&](value element) { return ReadTimeBounds(r, element); });
         }
         }
     });
@@ -219,9 +217,8 @@ std::shared_ptr<TimeCodeTable> ReadTimeCodeTable(Reader& r, value v)
             table->Type(r.Text(member));
             break;
         default: {
-            std::vector<std::shared_ptr<TimeCodeJump>> jumps;
-            r.Array(member, [&](value element) { jumps.push_back(ReadJump(r, element)); });
-            InsertInDocumentOrder(r, table->TimeCodeJumpItems(), jumps);
+            ReadInDocumentOrder<std::shared_ptr<TimeCodeJump>>(r, member, table->TimeCodeJumpItems(),
+                                                               [&](value element) { return ReadJump(r, element); });
         }
         }
     });
