@@ -25,7 +25,7 @@ namespace Orvik::DataModel::MediaAssets::Json {
 /// RawMetadataProfile and written back as they were read.
 ///
 /// Failure guarantee: strong. A lack of memory is std::bad_alloc, never JsonError; nothing half
-/// built escapes, and the thread keeps its grown parser and text buffer for the next document.
+/// built escapes, and the thread keeps its grown parser and buffers for the next document.
 template <typename T>
 T FromJson(std::string_view document);
 
