@@ -99,7 +99,7 @@ void InsertInDocumentOrder(Reader& r, Vector& vector, const T* items, size_t cou
 template <typename T, typename Vector, typename Read>
 void ReadInDocumentOrder(Reader& r, value v, Vector& vector, Read&& read)
 {
-    thread_local std::vector<T> pending;
+    std::vector<T>& pending = ThreadOwn<std::vector<T>>();
     struct Release {
         std::vector<T>& pending;
         const size_t start;

@@ -90,6 +90,23 @@ constexpr Members<sizeof...(Names)> MemberNames(Names... names)
     return Members<sizeof...(Names)>{{std::string_view(names)...}, 0};
 }
 
+/// The calling thread's own T, made on first use. Bind the result once: each mention of a
+/// thread-local variable looks its address up again, through a call into the C library.
+template <typename T>
+[[gnu::noinline]] T& ThreadOwn()
+{
+    thread_local T object;
+    return object;
+}
+
+/// The last text that a conversion to E accepted, and its value.
+template <typename E>
+struct AcceptedText {
+    E (*convert)(const std::string&, bool&) = nullptr;
+    std::string text;
+    E value{};
+};
+
 class Reader {
 public:
     /// What a thread keeps between documents, grown to the largest one read: the parser with its
@@ -249,12 +266,7 @@ public:
         // A document repeats the same few texts of an enumeration, and a lookup in the model's
         // table costs a few hundred instructions: the last text that `convert` accepted on this
         // thread is remembered.
-        struct Accepted {
-            E (*convert)(const std::string&, bool&) = nullptr;
-            std::string text;
-            E value{};
-        };
-        thread_local Accepted last;
+        AcceptedText<E>& last = ThreadOwn<AcceptedText<E>>();
         const std::string_view text = String(v);
         if (last.convert == convert && last.text == text)
             return last.value;
