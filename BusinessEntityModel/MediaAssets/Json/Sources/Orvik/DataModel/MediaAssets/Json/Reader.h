@@ -28,7 +28,8 @@ using simdjson::ondemand::value;
 
 /// A member name as the words of text that a key spelled exactly so starts with in the document,
 /// its closing quote included: a key is matched by at most three word comparisons. Names hold
-/// neither quotes nor backslashes, so such a key has no escapes and is the name itself.
+/// neither quotes nor backslashes, so such a key has no escapes and is the name itself. The
+/// tables of names are built while compiling, where a name of more than 23 characters fails.
 class MemberKey {
 public:
     constexpr MemberKey() = default;
@@ -91,7 +92,7 @@ constexpr Members<sizeof...(Names)> MemberNames(Names... names)
 }
 
 /// The calling thread's own T, made on first use. Bind the result once: each mention of a
-/// thread-local variable looks its address up again, through a call into the C library.
+/// thread-local variable looks its address up again, through a call into the dynamic loader.
 template <typename T>
 [[gnu::noinline]] T& ThreadOwn()
 {
