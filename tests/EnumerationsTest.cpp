@@ -77,6 +77,12 @@ void ExpectPublishedTexts(const std::vector<std::string>& texts, Print print, Pa
         texts, [](E value) { return ToString(value); }, [](const std::string& text) { return To##E(text); },                \
         [](const std::string& text, bool& failed) { return To##E(text, failed); })
 
+// For the type C::Type of a class C, with C::ToString(Type), C::ToType(text) and C::ToType(text, failed).
+#define EXPECT_PUBLISHED_TYPE_TEXTS(C, texts)                                                                               \
+    ExpectPublishedTexts<C::Type>(                                                                                          \
+        texts, [](C::Type type) { return C::ToString(type); }, [](const std::string& text) { return C::ToType(text); },     \
+        [](const std::string& text, bool& failed) { return C::ToType(text, failed); })
+
 TEST(EnumerationTexts, EveryEnumerationPublishesItsTextsByNumber)
 {
     EXPECT_PUBLISHED_TEXTS(
@@ -132,13 +138,6 @@ TEST(EnumerationTexts, RepeatedCallsReturnTheSameStringObject)
 
 TEST(EnumerationTexts, NestedTypesConvertThroughTheirClass)
 {
-    ExpectPublishedTexts<Essence::Type>(
-        Texts("Audio Data Video"), [](Essence::Type type) { return Essence::ToString(type); },
-        [](const std::string& text) { return Essence::ToType(text); },
-        [](const std::string& text, bool& failed) { return Essence::ToType(text, failed); });
-    ExpectPublishedTexts<Location::Type>(
-        Texts("FileLocation DaxContentTrackLocation DaxProtectLocation ZanLocation"),
-        [](Location::Type type) { return Location::ToString(type); },
-        [](const std::string& text) { return Location::ToType(text); },
-        [](const std::string& text, bool& failed) { return Location::ToType(text, failed); });
+    EXPECT_PUBLISHED_TYPE_TEXTS(Essence, Texts("Audio Data Video"));
+    EXPECT_PUBLISHED_TYPE_TEXTS(Location, Texts("FileLocation DaxContentTrackLocation DaxProtectLocation ZanLocation"));
 }
