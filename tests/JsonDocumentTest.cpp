@@ -8,6 +8,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <sstream>
 #include <string>
 
@@ -162,4 +163,38 @@ TEST_F(JsonSharing, UnknownProfileIsKeptAsItsTextAndWrittenBackByteIdentical)
     EXPECT_NE(written.find("\"vendor.technical\":" + compact), std::string::npos);
     const Stream read = Json::FromJson<Stream>(written);
     EXPECT_EQ(read.Metadata().At(FullyQualifiedName("vendor.technical")).ToString(), compact);
+}
+
+// Hundreds of tracks, each written once and named by a layout item: every pointer finds its own
+// track among them.
+TEST(JsonSharedObjects, HundredsOfLayoutItemTracksAreEachTheAssetsOwnTrack)
+{
+    MediaAsset asset;
+    TrackLayoutItem item(Identifier("all"));
+    for (int n = 0; n < 600; ++n) {
+        const auto track = std::make_shared<Track>(TrackId("track-" + std::to_string(n)), "");
+        asset.Tracks().Insert(track);
+        item.Tracks().Insert(track);
+    }
+    const auto layout = std::make_shared<TrackLayout>(Identifier("layout"));
+    layout->TrackLayoutItems().Insert(item);
+    asset.TrackLayouts().Insert(layout);
+    const MediaAsset read = Json::FromJson<MediaAsset>(Json::ToJson(asset));
+    EXPECT_EQ(read, asset);
+    const auto& tracks = read.TrackLayouts().Front()->TrackLayoutItems().Front().Tracks();
+    ASSERT_EQ(tracks.Size(), read.Tracks().Size());
+    for (size_t i = 0; i < tracks.Size(); ++i)
+        EXPECT_EQ(tracks[i].lock(), read.Tracks()[i]);
+}
+
+// The reader holds none of the objects it shared once the document is read.
+TEST(JsonSharedObjects, LiveOnlyAsLongAsTheModelHoldsThem)
+{
+    std::weak_ptr<TimeCodeTable> table;
+    {
+        const auto asset = Json::FromJson<MediaAsset>(ReadFile("asset-full.json"));
+        table = asset.MediaResources().Front().Value().Streams().front().Pointer()->Essences()[0].Timecodes()[0];
+        ASSERT_FALSE(table.expired());
+    }
+    EXPECT_TRUE(table.expired());
 }

@@ -143,6 +143,10 @@ public:
             Insert(value);
     }
 
+    /// Makes room for `count` elements in all, so that inserting up to that many allocates
+    /// nothing; the elements and their order do not change.
+    void Reserve(size_t count) { elements.reserve(count); }
+
     void Clear() { elements.clear(); }
     iterator Erase(const_iterator position) { return elements.erase(position); }
     iterator Erase(iterator position) { return elements.erase(position); }

@@ -82,6 +82,7 @@ SharedReference<T> MakeReference(const std::shared_ptr<T>& object, const Identif
 template <typename Vector, typename T>
 void InsertInDocumentOrder(Reader& r, Vector& vector, const T* items, size_t count)
 {
+    vector.Reserve(vector.Size() + count);
     for (size_t index = count; index-- > 0;) {
         try {
             vector.Insert(items[index]);

@@ -1,6 +1,5 @@
 #include "Path.h"
 
-#include <algorithm>
 #include <charconv>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
@@ -8,26 +7,37 @@ namespace Orvik::DataModel::MediaAssets::Json::detail {
 std::string Path::ToString() const
 {
     std::string text;
-    text.reserve(64);
+    AppendTo(text);
+    return text;
+}
+
+void Path::AppendTo(std::string& text) const
+{
+    // Written in place, after making room for the longest text the segments can give: a name
+    // with every character escaped, an index of 20 digits.
+    size_t room = 0;
+    for (size_t at = 0; at < depth; ++at)
+        room += 1 + (segments[at].isIndex ? 20 : 2 * segments[at].name.size());
+    const size_t start = text.size();
+    text.resize(start + room);
+    char* out = text.data() + start;
     for (size_t at = 0; at < depth; ++at) {
         const Segment& segment = segments[at];
-        text += '/';
+        *out++ = '/';
         if (segment.isIndex) {
-            char digits[20];
-            const auto end = std::to_chars(digits, digits + sizeof digits, segment.index).ptr;
-            text.append(digits, end);
+            out = std::to_chars(out, out + 20, segment.index).ptr;
             continue;
         }
-        const auto escaped = [](char c) { return c == '~' || c == '/'; };
-        auto run = segment.name.begin();
-        for (auto special = std::find_if(run, segment.name.end(), escaped); special != segment.name.end();
-             special = std::find_if(run, segment.name.end(), escaped)) {
-            text.append(run, special).append(*special == '~' ? "~0" : "~1");
-            run = special + 1;
+        for (const char c : segment.name) {
+            if (c == '~' || c == '/') {
+                *out++ = '~';
+                *out++ = c == '~' ? '0' : '1';
+            } else {
+                *out++ = c;
+            }
         }
-        text.append(run, segment.name.end());
     }
-    return text;
+    text.resize(static_cast<size_t>(out - text.data()));
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -21,6 +21,8 @@ public:
 
     /// "/mediaResources/2/pointer"; "" for the whole document. "~" and "/" in names are escaped.
     std::string ToString() const;
+    /// Appends ToString() to `text`.
+    void AppendTo(std::string& text) const;
 
 private:
     struct Segment {

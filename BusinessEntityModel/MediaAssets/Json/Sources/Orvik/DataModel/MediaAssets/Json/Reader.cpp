@@ -71,6 +71,7 @@ Reader::~Reader() = default;
 
 void Reader::GiveBack::operator()(Workspace* workspace) const noexcept
 {
+    workspace->places.Clear();
     if (SpareWorkspace())
         delete workspace;
     else

@@ -5,6 +5,7 @@
 // the JSON pointer of the value and what was expected.
 
 #include "Path.h"
+#include "SharedPlaces.h"
 
 #include <simdjson.h>
 
@@ -12,14 +13,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <deque>
 #include <limits>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <typeinfo>
-#include <unordered_map>
 #include <utility>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
@@ -116,6 +115,7 @@ public:
         simdjson::ondemand::parser parser;
         std::unique_ptr<char[]> text;
         size_t capacity = 0;
+        SharedPlaces places;
     };
     /// Parses `text`, whose top-level object must carry the schema `schemaName`.
     /// Gives a workspace back to the thread's spare when there is none; a reader that fails
@@ -286,8 +286,7 @@ public:
     template <typename T>
     void Register(const std::shared_ptr<T>& object)
     {
-        paths.push_back(path.ToString());
-        shared.insert_or_assign(paths.back(), Entry{&typeid(T), object});
+        workspace->places.Add(path, typeid(T), object);
     }
     /// The object of class T written at the JSON pointer that `v` holds; refuses a pointer to
     /// anything else, described to the reader as `what`.
@@ -295,11 +294,11 @@ public:
     std::shared_ptr<T> Referenced(value v, std::string_view what)
     {
         const std::string_view pointer = String(v);
-        const auto found = shared.find(pointer);
-        if (found == shared.end() || *found->second.type != typeid(T))
+        const SharedPlaces::Entry* const found = workspace->places.Find(pointer);
+        if (found == nullptr || *found->type != typeid(T))
             Fail("expected a JSON pointer to " + std::string(what) + " written earlier in the document, found \""
                  + std::string(pointer) + "\"");
-        return std::static_pointer_cast<T>(found->second.object);
+        return std::static_pointer_cast<T>(found->object);
     }
 
     [[noreturn]] void Fail(const std::string& expected) const;
@@ -317,11 +316,6 @@ public:
     }
 
 private:
-    struct Entry {
-        const std::type_info* type;
-        std::shared_ptr<void> object;
-    };
-
     [[noreturn]] void Fail(simdjson::error_code error, std::string_view expected, value* v) const;
     [[noreturn]] void OutOfInt32(int64_t number) const;
     void CheckSchema(value v);
@@ -342,10 +336,6 @@ private:
     LentWorkspace workspace;
     simdjson::ondemand::document document;
     Path path;
-    // The paths of the registered objects; a deque never moves its strings, so the keys of
-    // `shared` may view them, and a pointer is looked up without a copy.
-    std::deque<std::string> paths;
-    std::unordered_map<std::string_view, Entry> shared;
 };
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail
