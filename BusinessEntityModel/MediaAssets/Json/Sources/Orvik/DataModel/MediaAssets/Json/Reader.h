@@ -110,7 +110,8 @@ struct AcceptedText {
 class Reader {
 public:
     /// What a thread keeps between documents, grown to the largest one read: the parser with its
-    /// buffers, and the padded copy of the text that simdjson reads.
+    /// buffers, the padded copy of the text that simdjson reads, and the index of the shared
+    /// objects (emptied when the workspace is given back).
     struct Workspace {
         simdjson::ondemand::parser parser;
         std::unique_ptr<char[]> text;
