@@ -6,8 +6,6 @@ import pytest
 
 import orvik_media_assets as orvik
 
-SECOND = 1_000_000_000
-
 
 def test_clone_is_equal_but_new_and_deep(asset):
     clone = asset.clone()
@@ -65,13 +63,6 @@ def test_members_read_from_an_object_are_the_members(asset):
     assert asset.has_pelk_operator_metadata()
     asset.pelk_operator_metadata.rating = 4
     assert asset.metadata["orvik.pelkoperator"].rating == 4
-
-
-def test_time_bounds_answer_as_in_cpp(asset):
-    assert asset.get_duration() == orvik.Duration.from_seconds(10)
-    assert asset.physical_timebounds.is_valid()
-    asset.out_boundary = orvik.TimeBoundary(orvik.TimePoint(30 * SECOND))
-    assert asset.physical_timebounds.is_out_out_of_time_bounds()
 
 
 def test_sorted_vectors_keep_order_and_refuse_equal_elements():

@@ -1,5 +1,6 @@
 """Timecode labels and time-point texts from Python: the parsers, the formatters, and the values'
-own to_string and parse, with the library's exact refusals."""
+own to_string and parse; a failed try_parse is None and a refusal a ValueError with the library's
+text (the texts themselves are the C++ tests' concern)."""
 
 import pytest
 
@@ -13,12 +14,14 @@ def test_a_drop_frame_label_reads_and_writes_back():
     parser = tp.SmpteTimeCodeParser(NTSC)
     code = parser.parse("00:01:00;02")
     assert (code.total_sample, code.is_drop) == (1800, True)
-    assert code == tp.TimeCode.parse("00:01:00;02", parser)
-    assert code == tp.TimeCode.from_parts(NTSC, 0, 1, 0, 2, is_drop=True)
+    assert code == tp.TimeCode.parse("00:01:00;02", parser) == tp.TimeCode.from_parts(NTSC, 0, 1, 0, 2, is_drop=True)
     assert code.to_string(tp.SmpteTimeCodeFormatter()) == "00:01:00;02"
     assert tp.SmpteTimeCodeFormatter().format(code + 1) == "00:01:00;03"
     assert parser.try_parse("00:01:00;00") is None
     assert not parser.is_string_format_valid("00:01:00;00")
+    with pytest.raises(ValueError) as raised:
+        parser.parse("00:01:00;00")
+    assert str(raised.value) == "Invalid timecode '00:01:00;00': drop-frame counting skips this label"
 
 
 def test_a_time_point_text_reads_and_writes_back():
@@ -35,20 +38,3 @@ def test_durations_as_clock_and_as_timecode():
     assert duration.to_string(tp.ClockDurationFormatter()) == "01:01:01.040000000"
     assert tp.TimeCodeDurationFormatter(tp.Rate(25, 1)).format(duration) == "01:01:01:01"
     assert tp.TimeCodeDurationFormatter(NTSC, True).format(tp.Duration.from_milliseconds(60060)) == "00:01:00;02"
-
-
-@pytest.mark.parametrize("action, text", [
-    (lambda: tp.SmpteTimeCodeParser(NTSC).parse("00:01:00;00"),
-     "Invalid timecode '00:01:00;00': drop-frame counting skips this label"),
-    (lambda: tp.TimeCode.from_parts(tp.Rate(25, 1), 0, 60, 0, 0),
-     "Orvik::TimePoints::TimeCode: minutes must be 0 to 59"),
-    (lambda: tp.Iso8601TimePointParser().parse("2026-02-29T00:00:00Z"),
-     "Invalid time point '2026-02-29T00:00:00Z': no such day"),
-    (lambda: tp.TimeCodeDurationFormatter(tp.Rate(25, 1), True),
-     "Orvik::TimePoints::TimeCodeDurationFormatter: drop-frame counting needs 30000/1001 frames a second "
-     "or a whole multiple of it"),
-])
-def test_refusals_are_value_errors_with_the_library_text(action, text):
-    with pytest.raises(ValueError) as raised:
-        action()
-    assert str(raised.value) == text
