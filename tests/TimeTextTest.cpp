@@ -197,6 +197,7 @@ TEST(TimeCodeFromLabel, ChecksAsTheParserDoes)
         {24, 0, 0, 0, false, "hours must be 0 to 23"},
         {-1, 0, 0, 0, false, "hours must be 0 to 23"},
         {0, 0, 0, 30, false, "frames must be below the rate"},
+        {0, 60, 0, 0, false, "minutes must be 0 to 59"},
     };
     for (const auto& row : refusals) {
         SCOPED_TRACE(row.reason);
@@ -288,28 +289,11 @@ TEST(TimePointText, EveryPointReadsBackAsItself)
     }
 }
 
-TEST(DurationText, ClockFormWritesEveryDurationToTheNanosecond)
+// The clock form writes every duration to the nanosecond; the timecode form counts whole frames
+// toward zero.
+TEST(DurationText, ClockFormToTheNanosecondTimecodeFormInWholeFramesTowardZero)
 {
-    const struct {
-        Duration duration;
-        const char* text;
-    } rows[] = {
-        {Duration(), "00:00:00.000000000"},
-        {Duration(-1), "-00:00:00.000000001"},
-        {Duration::FromMinutes(24 * 60), "24:00:00.000000000"},
-        {Duration::FromSeconds(3661) + Duration::FromMilliseconds(40), "01:01:01.040000000"},
-        {Duration::MinValue(), "-2562047:47:16.854775808"},
-        {Duration::MaxValue(), "2562047:47:16.854775807"},
-    };
-    const ClockDurationFormatter formatter;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.text);
-        EXPECT_EQ(row.duration.ToString(formatter), row.text);
-    }
-}
-
-TEST(DurationText, TimecodeFormCountsWholeFramesTowardZero)
-{
+    const ClockDurationFormatter clock;
     const TimeCodeDurationFormatter fps25(kFps25);
     const TimeCodeDurationFormatter drop(kNtsc30, true);
     const struct {
@@ -317,14 +301,23 @@ TEST(DurationText, TimecodeFormCountsWholeFramesTowardZero)
         Duration duration;
         const char* text;
     } rows[] = {
-        {fps25, Duration::FromMilliseconds(1040), "00:00:01:01"},  {fps25, Duration::FromMilliseconds(1079), "00:00:01:01"},
-        {fps25, Duration::FromSeconds(-1), "-00:00:01:00"},        {fps25, Duration::FromMilliseconds(-39), "00:00:00:00"},
-        {fps25, Duration::FromMinutes(25 * 60), "25:00:00:00"},    {drop, Duration::FromMilliseconds(60060), "00:01:00;02"},
+        {clock, Duration(), "00:00:00.000000000"},
+        {clock, Duration(-1), "-00:00:00.000000001"},
+        {clock, Duration::FromMinutes(24 * 60), "24:00:00.000000000"},
+        {clock, Duration::FromSeconds(3661) + Duration::FromMilliseconds(40), "01:01:01.040000000"},
+        {clock, Duration::MinValue(), "-2562047:47:16.854775808"},
+        {clock, Duration::MaxValue(), "2562047:47:16.854775807"},
+        {fps25, Duration::FromMilliseconds(1040), "00:00:01:01"},
+        {fps25, Duration::FromMilliseconds(1079), "00:00:01:01"},
+        {fps25, Duration::FromSeconds(-1), "-00:00:01:00"},
+        {fps25, Duration::FromMilliseconds(-39), "00:00:00:00"},
+        {fps25, Duration::FromMinutes(25 * 60), "25:00:00:00"},
+        {drop, Duration::FromMilliseconds(60060), "00:01:00;02"},
         {drop, Duration::FromMilliseconds(600600), "00:10:00;18"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
-        EXPECT_EQ(row.formatter.Format(row.duration), row.text);
+        EXPECT_EQ(row.duration.ToString(row.formatter), row.text);
     }
     EXPECT_THAT([] { TimeCodeDurationFormatter(kFps25, true); },
                 ThrowsMessage<std::invalid_argument>(StrEq("Orvik::TimePoints::TimeCodeDurationFormatter: drop-frame "
