@@ -72,6 +72,9 @@ public:
     T& operator[](int index) { return *collection[static_cast<size_t>(index)]; }
 
     void Clear() { collection.clear(); }
+    /// Makes room for `count` elements in all, so that adding up to that many allocates nothing
+    /// for the array itself; the elements do not change.
+    void Reserve(size_t count) { collection.reserve(count); }
 
     /// Appends; the result is the index of the new element.
     int32_t Add(std::unique_ptr<T>&& element)

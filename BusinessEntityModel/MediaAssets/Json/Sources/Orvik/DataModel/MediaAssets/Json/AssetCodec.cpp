@@ -294,7 +294,8 @@ void ReadMembers(Reader& r, Reader::Rest& rest, MediaAsset& asset)
             break;
         }
         default:
-            r.Array(v, [&](value element) { asset.Annotations().push_back(ReadAnnotation(r, element)); });
+            ReadAppending<std::shared_ptr<Annotation>>(r, v, asset.Annotations(),
+                                                       [&](value element) { return ReadAnnotation(r, element); });
         }
     });
 }

@@ -10,6 +10,7 @@
 #include <Orvik/DataModel/MediaAssets.h>
 
 #include <cstddef>
+#include <iterator>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -93,12 +94,13 @@ void InsertInDocumentOrder(Reader& r, Vector& vector, const T* items, size_t cou
     }
 }
 
-/// Reads the array `v`, each element as `read(element)` gives it, into the sorted `vector` in
-/// document order. The elements wait in a buffer of the thread's for their type, kept between
-/// arrays (an array read while another one waits goes above it), so an array needs no
-/// allocation of its own.
-template <typename T, typename Vector, typename Read>
-void ReadInDocumentOrder(Reader& r, value v, Vector& vector, Read&& read)
+/// Reads the array `v`, each element as `read(element)` gives it, and hands the elements in
+/// document order to `take(items, count)`, which may move them. The elements wait in a buffer of
+/// the thread's for their type, kept between arrays (an array read while another one waits goes
+/// above it), so that an array needs no allocation of its own and its collection can be given
+/// room for all of them at once.
+template <typename T, typename Read, typename Take>
+void ReadBuffered(Reader& r, value v, Read&& read, Take&& take)
 {
     std::vector<T>& pending = ThreadOwn<std::vector<T>>();
     struct Release {
@@ -107,7 +109,36 @@ void ReadInDocumentOrder(Reader& r, value v, Vector& vector, Read&& read)
         ~Release() { pending.erase(pending.begin() + static_cast<std::ptrdiff_t>(start), pending.end()); }
     } const release{pending, pending.size()};
     r.Array(v, [&](value element) { pending.push_back(read(element)); });
-    InsertInDocumentOrder(r, vector, pending.data() + release.start, pending.size() - release.start);
+    take(pending.data() + release.start, pending.size() - release.start);
+}
+
+/// Reads the array `v` into the sorted `vector` in document order (see ReadBuffered).
+template <typename T, typename Vector, typename Read>
+void ReadInDocumentOrder(Reader& r, value v, Vector& vector, Read&& read)
+{
+    ReadBuffered<T>(r, v, read, [&](const T* items, size_t count) { InsertInDocumentOrder(r, vector, items, count); });
+}
+
+/// Appends the `count` elements at `items` to the model's `array` or a `std::vector`.
+template <typename T>
+void Append(Array<T>& array, std::unique_ptr<T>* items, size_t count)
+{
+    array.Reserve(static_cast<size_t>(array.Size()) + count);
+    for (size_t index = 0; index < count; ++index)
+        array.Add(std::move(items[index]));
+}
+template <typename T>
+void Append(std::vector<T>& vector, T* items, size_t count)
+{
+    vector.reserve(vector.size() + count);
+    vector.insert(vector.end(), std::make_move_iterator(items), std::make_move_iterator(items + count));
+}
+
+/// Reads the array `v` onto the end of `collection` in document order (see ReadBuffered).
+template <typename T, typename Collection, typename Read>
+void ReadAppending(Reader& r, value v, Collection& collection, Read&& read)
+{
+    ReadBuffered<T>(r, v, read, [&](T* items, size_t count) { Append(collection, items, count); });
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

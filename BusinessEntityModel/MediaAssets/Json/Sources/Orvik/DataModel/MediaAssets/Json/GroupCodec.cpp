@@ -108,7 +108,8 @@ std::shared_ptr<MediaAssetGroup> ReadGroup(Reader& r, Reader::Rest& rest)
             group->Name(r.Text(member));
             break;
         default:
-            r.Array(member, [&](value element) { group->Items().push_back(ReadItem(r, element)); });
+            ReadAppending<std::shared_ptr<MediaAssetGroupItem>>(r, member, group->Items(),
+                                                                [&](value element) { return ReadItem(r, element); });
         }
     });
     return group;

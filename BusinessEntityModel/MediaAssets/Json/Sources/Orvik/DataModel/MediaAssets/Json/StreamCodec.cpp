@@ -48,10 +48,12 @@ void ReadMembers(Reader& r, Reader::Rest& rest, Stream& stream)
             Read(r, v, stream.Metadata());
             break;
         case 5:
-            r.Array(v, [&](value element) { stream.Essences().Add(ReadEssence(r, element)); });
+            ReadAppending<std::unique_ptr<Essence>>(r, v, stream.Essences(),
+                                                    [&](value element) { return ReadEssence(r, element); });
             break;
         default:
-            r.Array(v, [&](value element) { stream.Locations().Add(ReadLocation(r, element)); });
+            ReadAppending<std::unique_ptr<Location>>(r, v, stream.Locations(),
+                                                     [&](value element) { return ReadLocation(r, element); });
         }
     });
 }
@@ -122,7 +124,8 @@ void ReadMembers(Reader& r, Reader::Rest& rest, MediaResource& resource)
             resource.GeneralFormat(r.Enumeration(v, &ToResourceFormat, "ResourceFormat"));
             break;
         case 4:
-            r.Array(v, [&](value element) { resource.Streams().push_back(ReadStreamReference(r, element)); });
+            ReadAppending<StreamReference>(r, v, resource.Streams(),
+                                           [&](value element) { return ReadStreamReference(r, element); });
             break;
         case 5:
             Read(r, v, resource.Timebounds());
