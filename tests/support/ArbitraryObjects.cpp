@@ -58,6 +58,236 @@ int32_t SmallInt(ArbitraryObjects& any)
     return any.Flip() ? values[any.Below(std::size(values))] : static_cast<int32_t>(any.Between(-5, 100000));
 }
 
+// Unique within its collection through the index; the text in front varies the order.
+Model::Identifier Id(ArbitraryObjects& any, const char* prefix, size_t index)
+{
+    return Model::Identifier(any.Text() + prefix + std::to_string(index));
+}
+
+Model::TimePoint Point(ArbitraryObjects& any)
+{
+    switch (any.Below(4)) {
+    case 0:
+        return Model::TimePoint::Empty();
+    case 1:
+        return Model::TimePoint(any.Between(std::numeric_limits<int64_t>::min(), std::numeric_limits<int64_t>::max()));
+    default:
+        return Model::TimePoint(any.Between(-1000, 100000) * 1000000);
+    }
+}
+
+Model::TimeBoundary Boundary(ArbitraryObjects& any)
+{
+    return any.Below(3) == 0 ? Model::TimeBoundary::Empty() : Model::TimeBoundary(Point(any), any.Flip());
+}
+
+Model::TimeBounds Bounds(ArbitraryObjects& any) { return Model::TimeBounds(Boundary(any), Boundary(any)); }
+
+Model::Timecode Timecode(ArbitraryObjects& any)
+{
+    static const TimePoints::Rate rates[] = {{25, 1}, {30000, 1001}, {50, 1}, {60000, 1001}, {0, 1}};
+    return Model::Timecode(rates[any.Below(std::size(rates))], any.Between(-10, 10000000), any.Flip(), any.Flip());
+}
+
+std::string TimeCodeText(ArbitraryObjects& any)
+{
+    auto twoDigits = [](int64_t value) { return (value < 10 ? "0" : "") + std::to_string(value); };
+    const int64_t hours = any.Between(0, 24);
+    std::string text = hours < 10 && any.Flip() ? std::to_string(hours) : twoDigits(hours);
+    text += ":" + twoDigits(any.Between(0, 59)) + ":" + twoDigits(any.Between(0, 59));
+    text += any.Flip() ? ";" : ":";
+    return text + twoDigits(any.Between(0, 29));
+}
+
+// The fields that both operator profiles have: the object id, the server and the clip.
+template <typename Profile>
+Profile ClipProfile(ArbitraryObjects& any)
+{
+    Profile profile;
+    profile.ObjectId(any.Between(-1, 1000));
+    profile.ServerId(Model::ZanServerId(static_cast<int>(any.Between(0, 3) * 10)));
+    profile.Page(SmallInt(any));
+    profile.Bank(SmallInt(any));
+    profile.Clip(SmallInt(any));
+    return profile;
+}
+
+// Nothing, or one of the two operator profiles.
+void FillMetadata(ArbitraryObjects& any, Model::MetadataProfileDictionary& dictionary)
+{
+    switch (any.Below(3)) {
+    case 0:
+        break;
+    case 1:
+        dictionary.Set(std::make_shared<Model::PelkOperatorMetadataProfile>(any.PelkOperatorProfile()));
+        break;
+    default:
+        dictionary.Set(std::make_shared<Model::AnglesPelkOperatorMetadataProfile>(any.AnglesPelkOperatorProfile()));
+        break;
+    }
+}
+
+// Timecode tables for the essences of one stream to share.
+std::vector<std::shared_ptr<Model::TimeCodeTable>> SharedTimeCodeTables(ArbitraryObjects& any)
+{
+    std::vector<std::shared_ptr<Model::TimeCodeTable>> tables;
+    Repeat(any, 3, [&](uint64_t) { tables.push_back(std::make_shared<Model::TimeCodeTable>(any.TimeCodeTable())); });
+    return tables;
+}
+
+std::unique_ptr<Model::Essence> MakeEssence(ArbitraryObjects& any,
+                                            const std::vector<std::shared_ptr<Model::TimeCodeTable>>& tables)
+{
+    std::unique_ptr<Model::Essence> essence;
+    switch (any.Below(3)) {
+    case 0: {
+        auto audio = std::make_unique<Model::AudioEssence>();
+        audio->AudioCodec(Pick<Model::AudioCodingFormat>(any));
+        audio->BitRate(SmallInt(any));
+        audio->BitRateMode(Pick<Model::BitRateMode>(any));
+        audio->SampleRate(Model::Rate(SmallInt(any), SmallInt(any)));
+        audio->BitDepth(SmallInt(any));
+        audio->FourCC(any.Text());
+        essence = std::move(audio);
+        break;
+    }
+    case 1:
+        essence = std::make_unique<Model::DataEssence>();
+        break;
+    default: {
+        auto video = std::make_unique<Model::VideoEssence>();
+        video->VideoCodec(Pick<Model::VideoCodingFormat>(any));
+        video->BitRate(SmallInt(any));
+        video->BitRateMode(Pick<Model::BitRateMode>(any));
+        video->BitDepth(SmallInt(any));
+        video->FrameRate(Model::Rate(SmallInt(any), SmallInt(any)));
+        video->Height(SmallInt(any));
+        video->Width(SmallInt(any));
+        video->ChromaSubSampling(Pick<Model::ChromaSubSampling>(any));
+        video->ColorSpace(Pick<Model::ColorSpace>(any));
+        video->ScanMode(Pick<Model::ScanMode>(any));
+        video->FourCC(any.Text());
+        video->AspectRatio(Model::AspectRatio(SmallInt(any), SmallInt(any)));
+        video->Boxing(Pick<Model::Boxing>(any));
+        essence = std::move(video);
+        break;
+    }
+    }
+    essence->ObjectId(any.Between(-1, 1000));
+    essence->ChannelCount(SmallInt(any));
+    essence->Nr(static_cast<int32_t>(any.Between(-2, 4)));
+    FillMetadata(any, essence->Metadata());
+    Repeat(any, 4, [&](uint64_t i) {  // distinct numbers: no refused duplicate
+        essence->TrackChannels().Insert(
+            std::make_shared<Model::TrackChannel>(Model::Identifier(any.Text()), static_cast<int32_t>(i) * 3 - 1));
+    });
+    for (const auto& table : tables)  // a table equal to one already there would be refused
+        if (any.Flip() && essence->Timecodes().ConstFind(table) == essence->Timecodes().end())
+            essence->Timecodes().Insert(table);
+    return essence;
+}
+
+Model::Stream MakeStream(ArbitraryObjects& any, size_t index)
+{
+    Model::Stream stream(Id(any, "stream-", index));
+    stream.ObjectId(any.Between(-1, 1000));
+    stream.Format(Pick<Model::WrapperFormat>(any));
+    stream.Timebounds(any.TimeBoundsArray());
+    FillMetadata(any, stream.Metadata());
+    const auto tables = SharedTimeCodeTables(any);  // shared by the stream's essences
+    Repeat(any, 4, [&](uint64_t) { stream.Essences().Add(MakeEssence(any, tables)); });
+    Repeat(any, 3, [&](uint64_t) { stream.Locations().Add(any.Location()); });
+    return stream;
+}
+
+Model::MediaResource MakeResource(ArbitraryObjects& any, size_t index, size_t firstStream)
+{
+    Model::MediaResource resource(Id(any, "resource-", index));
+    resource.ObjectId(any.Between(-1, 1000));
+    resource.Name(any.Text());
+    resource.GeneralFormat(Pick<Model::ResourceFormat>(any));
+    Repeat(any, 4, [&](uint64_t i) {
+        if (any.Below(4) == 0)
+            resource.Add(Id(any, "stream-", firstStream + i));
+        else
+            resource.Adopt(std::make_unique<Model::Stream>(MakeStream(any, firstStream + i)));
+    });
+    resource.Timebounds(any.TimeBoundsArray());
+    resource.CreationDate(any.Between(0, 2000000000));
+    resource.ModificationDate(any.Between(0, 2000000000));
+    FillMetadata(any, resource.Metadata());
+    return resource;
+}
+
+// A track whose channels point at some of `streams` or hold a stream id only.
+Model::Track MakeTrack(ArbitraryObjects& any, size_t index, const std::vector<std::shared_ptr<Model::Stream>>& streams)
+{
+    Model::Track track(Id(any, "track-", index), any.Text());
+    track.ObjectId(any.Between(-1, 1000));
+    Repeat(any, 4, [&](uint64_t i) {
+        auto channel = std::make_shared<Model::TrackChannelToRemove>();
+        const uint64_t choice = any.Below(streams.size() + 2);
+        if (choice < streams.size())
+            channel->Stream(Model::StreamReference(streams[choice]));
+        else if (choice == streams.size())
+            channel->Stream(Model::StreamReference(Id(any, "stream-", 100 + i)));
+        channel->EssenceNr(static_cast<int32_t>(any.Between(-1, 3)));
+        channel->ChannelNr(static_cast<int32_t>(any.Between(-1, 8)));
+        track.Channels().push_back(std::move(channel));
+    });
+    return track;
+}
+
+Model::TrackLayout MakeLayout(ArbitraryObjects& any, size_t index, const std::vector<std::shared_ptr<Model::Track>>& tracks)
+{
+    Model::TrackLayout layout(Id(any, "layout-", index), any.Text());
+    layout.ObjectId(any.Between(-1, 1000));
+    Repeat(any, 3, [&](uint64_t i) {
+        Model::TrackLayoutItem item(Id(any, "item-", i));
+        item.ObjectId(any.Between(-1, 1000));
+        item.Name(any.Text());
+        for (const auto& track : tracks)
+            if (any.Flip())
+                item.Tracks().Insert(track);
+        layout.TrackLayoutItems().Insert(item);
+    });
+    return layout;
+}
+
+Model::MediaAssetReference AssetReference(ArbitraryObjects& any)
+{
+    switch (any.Below(3)) {
+    case 0:
+        return Model::MediaAssetReference();
+    case 1:
+        return Model::MediaAssetReference(Model::MediaAssetId(any.Text()));
+    default:
+        return Model::MediaAssetReference(std::make_shared<Model::MediaAsset>(Model::MediaAssetId(any.Text())));
+    }
+}
+
+std::shared_ptr<Model::MediaAssetGroup> MakeGroup(ArbitraryObjects& any, bool angles)
+{
+    std::shared_ptr<Model::MediaAssetGroup> group;
+    if (angles)
+        group = std::make_shared<Model::AnglesMediaAssetGroup>(Model::MediaAssetGroupId(any.Text()));
+    else
+        group = std::make_shared<Model::MediaAssetGroup>(Model::MediaAssetGroupId(any.Text()), any.Text());
+    group->ObjectId(any.Between(-1, 1000));
+    group->Name(any.Text());
+    FillMetadata(any, group->Metadata());
+    Repeat(any, 4, [&](uint64_t) {
+        std::shared_ptr<Model::MediaAssetGroupItem> item;
+        if (angles ? any.Below(4) != 0 : any.Flip())
+            item = std::make_shared<Model::AnglesMediaAssetGroupItem>(any.Text(), AssetReference(any));
+        else
+            item = std::make_shared<Model::MediaAssetGroupItem>(AssetReference(any));
+        item->ObjectId(any.Between(-1, 1000));
+        group->Items().push_back(std::move(item));
+    });
+    return group;
+}
+
 }  // namespace
 
 ArbitraryObjects::ArbitraryObjects(uint64_t seed) : engine(seed) {}
@@ -103,71 +333,17 @@ std::string ArbitraryObjects::Text()
     return text;
 }
 
-Model::Identifier ArbitraryObjects::Id(const char* prefix, size_t index)
-{
-    // Unique within its collection through the index; the text in front varies the order.
-    return Model::Identifier(Text() + prefix + std::to_string(index));
-}
-
-Model::TimePoint ArbitraryObjects::TimePoint()
-{
-    switch (Below(4)) {
-    case 0:
-        return Model::TimePoint::Empty();
-    case 1:
-        return Model::TimePoint(Between(std::numeric_limits<int64_t>::min(), std::numeric_limits<int64_t>::max()));
-    default:
-        return Model::TimePoint(Between(-1000, 100000) * 1000000);
-    }
-}
-
-Model::TimeBoundary ArbitraryObjects::Boundary()
-{
-    return Below(3) == 0 ? Model::TimeBoundary::Empty() : Model::TimeBoundary(TimePoint(), Flip());
-}
-
-Model::TimeBounds ArbitraryObjects::Bounds() { return Model::TimeBounds(Boundary(), Boundary()); }
-
-Model::Timecode ArbitraryObjects::Timecode()
-{
-    static const TimePoints::Rate rates[] = {{25, 1}, {30000, 1001}, {50, 1}, {60000, 1001}, {0, 1}};
-    return Model::Timecode(rates[Below(std::size(rates))], Between(-10, 10000000), Flip(), Flip());
-}
-
-std::string ArbitraryObjects::TimeCodeText()
-{
-    auto twoDigits = [](int64_t value) { return (value < 10 ? "0" : "") + std::to_string(value); };
-    const int64_t hours = Between(0, 24);
-    std::string text = hours < 10 && Flip() ? std::to_string(hours) : twoDigits(hours);
-    text += ":" + twoDigits(Between(0, 59)) + ":" + twoDigits(Between(0, 59));
-    text += Flip() ? ";" : ":";
-    return text + twoDigits(Between(0, 29));
-}
-
 Model::TimeBoundsArray ArbitraryObjects::TimeBoundsArray()
 {
     Model::TimeBoundsArray array;
-    array.InBoundary(Boundary());
-    array.OutBoundary(Boundary());
+    array.InBoundary(Boundary(*this));
+    array.OutBoundary(Boundary(*this));
     Repeat(*this, 4, [&](uint64_t) {
-        const Model::TimeBounds bounds = Bounds();
+        const Model::TimeBounds bounds = Bounds(*this);
         if (std::find(array.begin(), array.end(), bounds) == array.end())
             array.Insert(bounds);
     });
     return array;
-}
-
-// The fields that both operator profiles have: the object id, the server and the clip.
-template <typename Profile>
-Profile ClipProfile(ArbitraryObjects& any)
-{
-    Profile profile;
-    profile.ObjectId(any.Between(-1, 1000));
-    profile.ServerId(Model::ZanServerId(static_cast<int>(any.Between(0, 3) * 10)));
-    profile.Page(SmallInt(any));
-    profile.Bank(SmallInt(any));
-    profile.Clip(SmallInt(any));
-    return profile;
 }
 
 Model::PelkOperatorMetadataProfile ArbitraryObjects::PelkOperatorProfile()
@@ -180,8 +356,8 @@ Model::PelkOperatorMetadataProfile ArbitraryObjects::PelkOperatorProfile()
     profile.ArchiveStatus(Pick<Model::ArchiveStatus>(*this));
     profile.UserTimecodeType(Pick<Model::UserTimecodeType>(*this));
     profile.PrimaryTimecode(Pick<Model::TimecodePrimary>(*this));
-    profile.UserTimecode(Timecode());
-    profile.TodTimecode(Timecode());
+    profile.UserTimecode(Timecode(*this));
+    profile.TodTimecode(Timecode(*this));
     profile.Icon(Text());
     profile.Color(static_cast<uint32_t>(Draw(4)));
     profile.FillAndKeyType(Pick<Model::FillAndKeyType>(*this));
@@ -197,24 +373,10 @@ Model::AnglesPelkOperatorMetadataProfile ArbitraryObjects::AnglesPelkOperatorPro
     return ClipProfile<Model::AnglesPelkOperatorMetadataProfile>(*this);
 }
 
-void ArbitraryObjects::FillMetadata(Model::MetadataProfileDictionary& dictionary)
-{
-    switch (Below(3)) {
-    case 0:
-        break;
-    case 1:
-        dictionary.Set(std::make_shared<Model::PelkOperatorMetadataProfile>(PelkOperatorProfile()));
-        break;
-    default:
-        dictionary.Set(std::make_shared<Model::AnglesPelkOperatorMetadataProfile>(AnglesPelkOperatorProfile()));
-        break;
-    }
-}
-
 Model::MetadataProfileDictionary ArbitraryObjects::MetadataDictionary()
 {
     Model::MetadataProfileDictionary dictionary;
-    FillMetadata(dictionary);
+    FillMetadata(*this, dictionary);
     return dictionary;
 }
 
@@ -228,70 +390,12 @@ Model::TimeCodeTable ArbitraryObjects::TimeCodeTable()
         // Distinct time points: a jump equal to the one at its place would be refused.
         const Model::TimePoint point(static_cast<int64_t>(i) * 40000000 + Between(0, 39999999));
         table.TimeCodeJumpItems().Insert(
-            std::make_shared<Model::TimeCodeJump>(point, Model::TimeCodeString(TimeCodeText()), Between(-1, 100000)));
+            std::make_shared<Model::TimeCodeJump>(point, Model::TimeCodeString(TimeCodeText(*this)), Between(-1, 100000)));
     });
     return table;
 }
 
-std::unique_ptr<Model::Essence> ArbitraryObjects::Essence(const std::vector<std::shared_ptr<Model::TimeCodeTable>>& tables)
-{
-    std::unique_ptr<Model::Essence> essence;
-    switch (Below(3)) {
-    case 0: {
-        auto audio = std::make_unique<Model::AudioEssence>();
-        audio->AudioCodec(Pick<Model::AudioCodingFormat>(*this));
-        audio->BitRate(SmallInt(*this));
-        audio->BitRateMode(Pick<Model::BitRateMode>(*this));
-        audio->SampleRate(Model::Rate(SmallInt(*this), SmallInt(*this)));
-        audio->BitDepth(SmallInt(*this));
-        audio->FourCC(Text());
-        essence = std::move(audio);
-        break;
-    }
-    case 1:
-        essence = std::make_unique<Model::DataEssence>();
-        break;
-    default: {
-        auto video = std::make_unique<Model::VideoEssence>();
-        video->VideoCodec(Pick<Model::VideoCodingFormat>(*this));
-        video->BitRate(SmallInt(*this));
-        video->BitRateMode(Pick<Model::BitRateMode>(*this));
-        video->BitDepth(SmallInt(*this));
-        video->FrameRate(Model::Rate(SmallInt(*this), SmallInt(*this)));
-        video->Height(SmallInt(*this));
-        video->Width(SmallInt(*this));
-        video->ChromaSubSampling(Pick<Model::ChromaSubSampling>(*this));
-        video->ColorSpace(Pick<Model::ColorSpace>(*this));
-        video->ScanMode(Pick<Model::ScanMode>(*this));
-        video->FourCC(Text());
-        video->AspectRatio(Model::AspectRatio(SmallInt(*this), SmallInt(*this)));
-        video->Boxing(Pick<Model::Boxing>(*this));
-        essence = std::move(video);
-        break;
-    }
-    }
-    essence->ObjectId(Between(-1, 1000));
-    essence->ChannelCount(SmallInt(*this));
-    essence->Nr(static_cast<int32_t>(Between(-2, 4)));
-    FillMetadata(essence->Metadata());
-    Repeat(*this, 4, [&](uint64_t i) {  // distinct numbers: no refused duplicate
-        essence->TrackChannels().Insert(
-            std::make_shared<Model::TrackChannel>(Model::Identifier(Text()), static_cast<int32_t>(i) * 3 - 1));
-    });
-    for (const auto& table : tables)  // a table equal to one already there would be refused
-        if (Flip() && essence->Timecodes().ConstFind(table) == essence->Timecodes().end())
-            essence->Timecodes().Insert(table);
-    return essence;
-}
-
-std::vector<std::shared_ptr<Model::TimeCodeTable>> ArbitraryObjects::SharedTimeCodeTables()
-{
-    std::vector<std::shared_ptr<Model::TimeCodeTable>> tables;
-    Repeat(*this, 3, [&](uint64_t) { tables.push_back(std::make_shared<Model::TimeCodeTable>(TimeCodeTable())); });
-    return tables;
-}
-
-std::unique_ptr<Model::Essence> ArbitraryObjects::Essence() { return Essence(SharedTimeCodeTables()); }
+std::unique_ptr<Model::Essence> ArbitraryObjects::Essence() { return MakeEssence(*this, SharedTimeCodeTables(*this)); }
 
 std::unique_ptr<Model::Location> ArbitraryObjects::Location()
 {
@@ -325,98 +429,32 @@ std::unique_ptr<Model::Location> ArbitraryObjects::Location()
     }
 }
 
-Model::Stream ArbitraryObjects::Stream(size_t index)
-{
-    Model::Stream stream(Id("stream-", index));
-    stream.ObjectId(Between(-1, 1000));
-    stream.Format(Pick<Model::WrapperFormat>(*this));
-    stream.Timebounds(TimeBoundsArray());
-    FillMetadata(stream.Metadata());
-    const auto tables = SharedTimeCodeTables();  // shared by the stream's essences
-    Repeat(*this, 4, [&](uint64_t) { stream.Essences().Add(Essence(tables)); });
-    Repeat(*this, 3, [&](uint64_t) { stream.Locations().Add(Location()); });
-    return stream;
-}
+Model::Stream ArbitraryObjects::Stream() { return MakeStream(*this, 0); }
 
-Model::Stream ArbitraryObjects::Stream() { return Stream(0); }
-
-Model::MediaResource ArbitraryObjects::MediaResource(size_t index, size_t firstStream)
-{
-    Model::MediaResource resource(Id("resource-", index));
-    resource.ObjectId(Between(-1, 1000));
-    resource.Name(Text());
-    resource.GeneralFormat(Pick<Model::ResourceFormat>(*this));
-    Repeat(*this, 4, [&](uint64_t i) {
-        if (Below(4) == 0)
-            resource.Add(Id("stream-", firstStream + i));
-        else
-            resource.Adopt(std::make_unique<Model::Stream>(Stream(firstStream + i)));
-    });
-    resource.Timebounds(TimeBoundsArray());
-    resource.CreationDate(Between(0, 2000000000));
-    resource.ModificationDate(Between(0, 2000000000));
-    FillMetadata(resource.Metadata());
-    return resource;
-}
-
-Model::MediaResource ArbitraryObjects::MediaResource() { return MediaResource(0, 0); }
-
-Model::Track ArbitraryObjects::Track(size_t index, const std::vector<std::shared_ptr<Model::Stream>>& streams)
-{
-    Model::Track track(Id("track-", index), Text());
-    track.ObjectId(Between(-1, 1000));
-    Repeat(*this, 4, [&](uint64_t i) {
-        auto channel = std::make_shared<Model::TrackChannelToRemove>();
-        const uint64_t choice = Below(streams.size() + 2);
-        if (choice < streams.size())
-            channel->Stream(Model::StreamReference(streams[choice]));
-        else if (choice == streams.size())
-            channel->Stream(Model::StreamReference(Id("stream-", 100 + i)));
-        channel->EssenceNr(static_cast<int32_t>(Between(-1, 3)));
-        channel->ChannelNr(static_cast<int32_t>(Between(-1, 8)));
-        track.Channels().push_back(std::move(channel));
-    });
-    return track;
-}
+Model::MediaResource ArbitraryObjects::MediaResource() { return MakeResource(*this, 0, 0); }
 
 Model::Track ArbitraryObjects::Track()
 {
     std::vector<std::shared_ptr<Model::Stream>> streams;
     if (Flip())
-        streams.push_back(std::make_shared<Model::Stream>(Stream(0)));
-    return Track(0, streams);
-}
-
-Model::TrackLayout ArbitraryObjects::TrackLayout(size_t index, const std::vector<std::shared_ptr<Model::Track>>& tracks)
-{
-    Model::TrackLayout layout(Id("layout-", index), Text());
-    layout.ObjectId(Between(-1, 1000));
-    Repeat(*this, 3, [&](uint64_t i) {
-        Model::TrackLayoutItem item(Id("item-", i));
-        item.ObjectId(Between(-1, 1000));
-        item.Name(Text());
-        for (const auto& track : tracks)
-            if (Flip())
-                item.Tracks().Insert(track);
-        layout.TrackLayoutItems().Insert(item);
-    });
-    return layout;
+        streams.push_back(std::make_shared<Model::Stream>(MakeStream(*this, 0)));
+    return MakeTrack(*this, 0, streams);
 }
 
 Model::TrackLayout ArbitraryObjects::TrackLayout()
 {
     std::vector<std::shared_ptr<Model::Track>> tracks;
-    Repeat(*this, 3, [&](uint64_t i) { tracks.push_back(std::make_shared<Model::Track>(Track(i, {}))); });
+    Repeat(*this, 3, [&](uint64_t i) { tracks.push_back(std::make_shared<Model::Track>(MakeTrack(*this, i, {}))); });
     keptTracks.insert(keptTracks.end(), tracks.begin(), tracks.end());
-    return TrackLayout(0, tracks);
+    return MakeLayout(*this, 0, tracks);
 }
 
 Model::Annotation ArbitraryObjects::Annotation()
 {
     Model::Annotation annotation(Pick<Model::AnnotationType>(*this), Text());
     annotation.ObjectId(Between(-1, 1000));
-    annotation.TimeBounds(Bounds());
-    FillMetadata(annotation.Metadata());
+    annotation.TimeBounds(Bounds(*this));
+    FillMetadata(*this, annotation.Metadata());
     return annotation;
 }
 
@@ -425,73 +463,40 @@ Model::MediaAsset ArbitraryObjects::MediaAsset()
     Model::MediaAsset asset{Model::MediaAssetId(Text())};
     asset.ObjectId(Between(-1, 1000));
     asset.AssetType(Pick<Model::AssetType>(*this));
-    asset.Ancestor(AssetReference());
-    asset.Parent(AssetReference());
+    asset.Ancestor(AssetReference(*this));
+    asset.Parent(AssetReference(*this));
     asset.Name(Text());
     asset.Description(Text());
     asset.PhysicalTimebounds(TimeBoundsArray());
     asset.CreationDate(Between(0, 2000000000));
     asset.ModificationDate(Between(0, 2000000000));
-    FillMetadata(asset.Metadata());
+    FillMetadata(*this, asset.Metadata());
 
     std::vector<std::shared_ptr<Model::Stream>> streams;
     Repeat(*this, 3, [&](uint64_t r) {
         if (Below(4) == 0) {
-            asset.MediaResources().Insert(Model::MediaResourceReference(Id("resource-", r)));
+            asset.MediaResources().Insert(Model::MediaResourceReference(Id(*this, "resource-", r)));
             return;
         }
-        auto resource = std::make_shared<Model::MediaResource>(MediaResource(r, r * 10));
+        auto resource = std::make_shared<Model::MediaResource>(MakeResource(*this, r, r * 10));
         for (auto& stream : resource->Streams())
             if (stream.Pointer())
                 streams.push_back(stream.Pointer());
         asset.MediaResources().Insert(Model::MediaResourceReference(resource));
     });
     std::vector<std::shared_ptr<Model::Track>> tracks;
-    Repeat(*this, 4, [&](uint64_t t) { tracks.push_back(std::make_shared<Model::Track>(Track(t, streams))); });
+    Repeat(*this, 4, [&](uint64_t t) { tracks.push_back(std::make_shared<Model::Track>(MakeTrack(*this, t, streams))); });
     for (const auto& track : tracks)
         asset.Tracks().Insert(track);
-    Repeat(*this, 3,
-           [&](uint64_t l) { asset.TrackLayouts().Insert(std::make_shared<Model::TrackLayout>(TrackLayout(l, tracks))); });
+    Repeat(*this, 3, [&](uint64_t l) {
+        asset.TrackLayouts().Insert(std::make_shared<Model::TrackLayout>(MakeLayout(*this, l, tracks)));
+    });
     Repeat(*this, 3, [&](uint64_t) { asset.Annotations().push_back(std::make_shared<Model::Annotation>(Annotation())); });
     return asset;
 }
 
-Model::MediaAssetReference ArbitraryObjects::AssetReference()
-{
-    switch (Below(3)) {
-    case 0:
-        return Model::MediaAssetReference();
-    case 1:
-        return Model::MediaAssetReference(Model::MediaAssetId(Text()));
-    default:
-        return Model::MediaAssetReference(std::make_shared<Model::MediaAsset>(Model::MediaAssetId(Text())));
-    }
-}
+std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::MediaAssetGroup() { return MakeGroup(*this, false); }
 
-std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::Group(bool angles)
-{
-    std::shared_ptr<Model::MediaAssetGroup> group;
-    if (angles)
-        group = std::make_shared<Model::AnglesMediaAssetGroup>(Model::MediaAssetGroupId(Text()));
-    else
-        group = std::make_shared<Model::MediaAssetGroup>(Model::MediaAssetGroupId(Text()), Text());
-    group->ObjectId(Between(-1, 1000));
-    group->Name(Text());
-    FillMetadata(group->Metadata());
-    Repeat(*this, 4, [&](uint64_t) {
-        std::shared_ptr<Model::MediaAssetGroupItem> item;
-        if (angles ? Below(4) != 0 : Flip())
-            item = std::make_shared<Model::AnglesMediaAssetGroupItem>(Text(), AssetReference());
-        else
-            item = std::make_shared<Model::MediaAssetGroupItem>(AssetReference());
-        item->ObjectId(Between(-1, 1000));
-        group->Items().push_back(std::move(item));
-    });
-    return group;
-}
-
-std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::MediaAssetGroup() { return Group(false); }
-
-std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::AnglesMediaAssetGroup() { return Group(true); }
+std::shared_ptr<Model::MediaAssetGroup> ArbitraryObjects::AnglesMediaAssetGroup() { return MakeGroup(*this, true); }
 
 }  // namespace Orvik::Testing

@@ -73,27 +73,6 @@ public:
 
 private:
     uint64_t Draw(size_t bytes);
-
-    DataModel::MediaAssets::Identifier Id(const char* prefix, size_t index);
-    DataModel::MediaAssets::TimePoint TimePoint();
-    DataModel::MediaAssets::TimeBoundary Boundary();
-    DataModel::MediaAssets::TimeBounds Bounds();
-    DataModel::MediaAssets::Timecode Timecode();
-    std::string TimeCodeText();
-    void FillMetadata(DataModel::MediaAssets::MetadataProfileDictionary& dictionary);
-    /// Timecode tables for the essences of one stream to share.
-    std::vector<std::shared_ptr<DataModel::MediaAssets::TimeCodeTable>> SharedTimeCodeTables();
-    std::unique_ptr<DataModel::MediaAssets::Essence>
-    Essence(const std::vector<std::shared_ptr<DataModel::MediaAssets::TimeCodeTable>>& tables);
-    DataModel::MediaAssets::Stream Stream(size_t index);
-    DataModel::MediaAssets::MediaResource MediaResource(size_t index, size_t firstStream);
-    DataModel::MediaAssets::Track Track(size_t index,
-                                        const std::vector<std::shared_ptr<DataModel::MediaAssets::Stream>>& streams);
-    DataModel::MediaAssets::TrackLayout
-    TrackLayout(size_t index, const std::vector<std::shared_ptr<DataModel::MediaAssets::Track>>& tracks);
-    DataModel::MediaAssets::MediaAssetReference AssetReference();
-    std::shared_ptr<DataModel::MediaAssets::MediaAssetGroup> Group(bool angles);
-
     std::mt19937_64 engine;
     bool fromBytes = false;
     const uint8_t* data = nullptr;
