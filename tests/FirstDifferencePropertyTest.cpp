@@ -347,7 +347,7 @@ const std::vector<Mutation<MediaAssetGroup>> kGroupMutations = {
     },
 };
 
-/// Checks one pair both ways; `expected` is the path of the one changed field.
+/// Checks one pair both ways; `expected` is the path of the one changed field, if any.
 template <typename T>
 void ExpectDifferenceAt(const T& source, const T& changed, const Path& expected)
 {
@@ -356,9 +356,10 @@ void ExpectDifferenceAt(const T& source, const T& changed, const Path& expected)
         const T& right = forward ? changed : source;
         const auto difference = FirstDifference(left, right);
         ASSERT_EQ(difference.has_value(), left != right);
+        // A change that is not seen means that the target shares what it should own.
+        ASSERT_EQ(difference.has_value(), expected.has_value()) << (difference ? difference->Path() : *expected);
         if (!difference)
             continue;
-        ASSERT_TRUE(expected.has_value()) << "unexpected difference at " << difference->Path();
         EXPECT_EQ(difference->Path(), *expected);
         EXPECT_NE(difference->Left(), difference->Right()) << difference->Path();
     }
