@@ -115,16 +115,11 @@ Profile ClipProfile(ArbitraryObjects& any)
 // Nothing, or one of the two operator profiles.
 void FillMetadata(ArbitraryObjects& any, Model::MetadataProfileDictionary& dictionary)
 {
-    switch (any.Below(3)) {
-    case 0:
-        break;
-    case 1:
+    const uint64_t choice = any.Below(3);
+    if (choice == 1)
         dictionary.Set(std::make_shared<Model::PelkOperatorMetadataProfile>(any.PelkOperatorProfile()));
-        break;
-    default:
+    else if (choice == 2)
         dictionary.Set(std::make_shared<Model::AnglesPelkOperatorMetadataProfile>(any.AnglesPelkOperatorProfile()));
-        break;
-    }
 }
 
 // Timecode tables for the essences of one stream to share.
@@ -268,11 +263,8 @@ Model::MediaAssetReference AssetReference(ArbitraryObjects& any)
 
 std::shared_ptr<Model::MediaAssetGroup> MakeGroup(ArbitraryObjects& any, bool angles)
 {
-    std::shared_ptr<Model::MediaAssetGroup> group;
-    if (angles)
-        group = std::make_shared<Model::AnglesMediaAssetGroup>(Model::MediaAssetGroupId(any.Text()));
-    else
-        group = std::make_shared<Model::MediaAssetGroup>(Model::MediaAssetGroupId(any.Text()), any.Text());
+    const auto group = angles ? std::make_shared<Model::AnglesMediaAssetGroup>(Model::MediaAssetGroupId(any.Text()))
+                              : std::make_shared<Model::MediaAssetGroup>(Model::MediaAssetGroupId(any.Text()), any.Text());
     group->ObjectId(any.Between(-1, 1000));
     group->Name(any.Text());
     FillMetadata(any, group->Metadata());
