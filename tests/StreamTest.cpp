@@ -1,16 +1,34 @@
+// A stream and what it holds, its essences and locations; then the resources that hold streams.
+
 #include <Orvik/DataModel/MediaAssets/AudioEssence.h>
+#include <Orvik/DataModel/MediaAssets/DataEssence.h>
+#include <Orvik/DataModel/MediaAssets/DaxContentTrackLocation.h>
+#include <Orvik/DataModel/MediaAssets/DaxProtectLocation.h>
 #include <Orvik/DataModel/MediaAssets/FileLocation.h>
+#include <Orvik/DataModel/MediaAssets/MediaResource.h>
 #include <Orvik/DataModel/MediaAssets/Stream.h>
+#include <Orvik/DataModel/MediaAssets/TimeCodeTable.h>
+#include <Orvik/DataModel/MediaAssets/TrackChannel.h>
 #include <Orvik/DataModel/MediaAssets/VideoEssence.h>
 #include <Orvik/DataModel/MediaAssets/ZanLocation.h>
 
 #include "TestProfiles.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <memory>
+#include <stdexcept>
+#include <string>
+#include <type_traits>
+#include <utility>
 
 using namespace Orvik::DataModel::MediaAssets;
+using ::testing::StrEq;
+using ::testing::ThrowsMessage;
+
+static_assert(!std::is_copy_constructible_v<AudioEssence>, "essences are copied through Clone");
+static_assert(!std::is_copy_constructible_v<DataEssence>, "essences are copied through Clone");
+static_assert(!std::is_copy_constructible_v<VideoEssence>, "essences are copied through Clone");
 
 namespace {
 
@@ -28,6 +46,32 @@ Stream MakeStream(bool videoFirst = false)
     stream.Locations().Add(ZanLocation(ZanServerId(120), "A7F3"));
     stream.ObjectId(7);
     return stream;
+}
+
+std::shared_ptr<TrackChannel> Channel(const char* trackId, int32_t channelNr)
+{
+    return std::make_shared<TrackChannel>(Identifier(trackId), channelNr);
+}
+
+// Whether two new essences of kind E are equal once `left` and `right` have changed them.
+template <typename E>
+bool EqualAfter(void (*left)(E&), void (*right)(E&))
+{
+    E leftEssence;
+    E rightEssence;
+    left(leftEssence);
+    right(rightEssence);
+    return leftEssence == rightEssence;
+}
+
+MediaResource MakeResource()
+{
+    MediaResource resource(MediaResourceId("r1"));
+    resource.Name("hires");
+    resource.Adopt(std::make_unique<Stream>(MakeStream()));
+    resource.Add(StreamId("s2"));
+    resource.Metadata().Set(std::make_shared<TestProfile>(1));
+    return resource;
 }
 
 }  // namespace
@@ -48,19 +92,24 @@ TEST(StreamClone, CopiesOwnedPartsWithObjectIdUnset)
     const Stream source = MakeStream();
     const Stream clone = source.Clone();
     EXPECT_EQ(clone.ObjectId(), -1);
-    EXPECT_EQ(clone, source);
     EXPECT_NE(clone.Metadata().Values()[0], source.Metadata().Values()[0]) << "profiles are deep-copied";
-    EXPECT_NE(&clone.Essences()[0], &source.Essences()[0]);
-    EXPECT_NE(&clone.Locations()[0], &source.Locations()[0]);
     EXPECT_NE(&Stream().Clone().Metadata(), &source.Metadata()) << "even a default stream's clone has its own";
 }
 
-TEST(StreamClone, EmptiesTheSourceEssenceMetadataItShares)
+TEST(StreamClone, StopsAtADuplicateChannelInAnEssence)
 {
-    const Stream source = MakeStream();
-    const Stream clone = source.Clone();
-    EXPECT_TRUE(source.Essences()[0].Metadata().Empty());
-    EXPECT_EQ(&clone.Essences()[0].Metadata(), &source.Essences()[0].Metadata());
+    Stream stream = MakeStream();
+    AudioEssence second;
+    // Values() does not look for duplicates, so two equal channels can stand side by side.
+    second.TrackChannels().Values(
+        {std::make_shared<TrackChannel>(Identifier("a"), 1), std::make_shared<TrackChannel>(Identifier("a"), 1)});
+    stream.Essences().Add(std::move(second));
+    EXPECT_THAT([&] { stream.Clone(); },
+                ThrowsMessage<std::runtime_error>(
+                    StrEq("Orvik::DataModel::MediaAssets::SortedVector::Insert: item already present in the collection")));
+    EXPECT_EQ(stream.Essences().Size(), 3);
+    EXPECT_EQ(stream.Essences()[2].TrackChannels().Size(), 2u);
+    EXPECT_TRUE(stream.Essences()[0].Metadata().Empty()) << "the completed essence clone emptied it, by design";
 }
 
 TEST(StreamCopy, BehavesAsCloneButKeepsTheObjectId)
@@ -68,12 +117,227 @@ TEST(StreamCopy, BehavesAsCloneButKeepsTheObjectId)
     const Stream source = MakeStream();
     Stream copy(source);
     EXPECT_EQ(copy.ObjectId(), 7);
-    EXPECT_EQ(copy, source);
-    EXPECT_NE(&copy.Essences()[0], &source.Essences()[0]);
     copy.Metadata().Set(std::make_shared<TestProfile>(9));
     EXPECT_EQ(source.Metadata().Get<TestProfile>()->value, 1);
     Stream assigned;
     assigned = source;
     EXPECT_EQ(assigned.ObjectId(), 7);
     EXPECT_EQ(assigned, source);
+}
+
+TEST(EssenceEquality, KindComesFirstInBothDirections)
+{
+    const AudioEssence audio;
+    const DataEssence data;
+    const VideoEssence video;
+    const Essence* const kinds[] = {&audio, &data, &video};
+    for (const Essence* left : kinds)
+        for (const Essence* right : kinds)
+            EXPECT_EQ(*left == *right, left == right) << left->GetType() << " == " << right->GetType();
+}
+
+// That a negative number matches any number is checked by the first-difference property test.
+TEST(EssenceEquality, IgnoresObjectIdButComparesTextsRatesAndFramingAsStored)
+{
+    EXPECT_TRUE(EqualAfter<AudioEssence>([](auto&) {}, [](auto& e) { e.ObjectId(42); }));
+    EXPECT_FALSE(EqualAfter<AudioEssence>([](auto& e) { e.FourCC("twos"); }, [](auto& e) { e.FourCC("TWOS"); }));
+    EXPECT_FALSE(
+        EqualAfter<AudioEssence>([](auto& e) { e.SampleRate(Rate(1, 2)); }, [](auto& e) { e.SampleRate(Rate(2, 4)); }));
+    EXPECT_FALSE(EqualAfter<VideoEssence>([](auto& e) { e.AspectRatio(AspectRatio(16, 9)); },
+                                          [](auto& e) { e.AspectRatio(AspectRatio(32, 18)); }));
+    EXPECT_FALSE(EqualAfter<VideoEssence>([](auto& e) { e.Boxing(Boxing::letterbox); }, [](auto&) {}));
+    EXPECT_FALSE(EqualAfter<VideoEssence>([](auto& e) { e.ChannelCount(1); }, [](auto&) {}));
+}
+
+TEST(EssenceEquality, TrackChannelsCompareByValueInPosition)
+{
+    AudioEssence left;
+    AudioEssence right;
+    AudioEssence reversed;
+    for (auto* essence : {&left, &right})
+        for (const char* track : {"a", "b"})
+            essence->TrackChannels().Insert(Channel(track, 3));
+    reversed.TrackChannels().Insert(Channel("b", 3));
+    reversed.TrackChannels().Insert(Channel("a", 3));
+    EXPECT_EQ(left, right) << "different objects, same values";
+    EXPECT_NE(left, reversed) << "opposite insertion orders stand in opposite orders";
+}
+
+TEST(TrackChannelOrder, IsByNumberSoOnlyTheChannelAtTheLowerBoundIsTested)
+{
+    SortedVectorSharedPointer<TrackChannel> channels;
+    channels.Insert(Channel("a", 3));
+    EXPECT_THROW(channels.Insert(Channel("a", 3)), std::runtime_error);
+    channels.Insert(Channel("b", 3));
+    EXPECT_EQ(channels.Front()->TrackId(), Identifier("b"));
+    channels.Insert(Channel("a", 3));
+    EXPECT_EQ(channels.Size(), 3u);
+    channels.Insert(Channel("z", -1));
+    EXPECT_EQ(channels.Front()->ChannelNr(), -1) << "numbers compare signed";
+}
+
+TEST(TrackChannelEquality, NeedsTrackAndNumber)
+{
+    EXPECT_EQ(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("a"), 3).Clone());
+    EXPECT_NE(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("b"), 3));
+    EXPECT_NE(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("a"), 4));
+}
+
+// What a clone owns and what it shares with its source.
+class EssenceClone : public ::testing::Test {
+protected:
+    EssenceClone()
+    {
+        source.Nr(2);
+        source.FourCC("twos");
+        source.Metadata().Set(std::make_shared<TestProfile>(1));
+        source.TrackChannels().Insert(Channel("a", 1));
+        source.Timecodes().Insert(std::make_shared<TimeCodeTable>());
+        source.ObjectId(9);
+        clone = source.Clone();
+    }
+    AudioEssence source;
+    std::unique_ptr<Essence> clone;
+};
+
+// That a clone equals its source, for every kind, is checked by the first-difference property test.
+TEST_F(EssenceClone, KeepsTheKindAndTheObjectId)
+{
+    EXPECT_EQ(clone->GetType(), Essence::Audio);
+    EXPECT_EQ(clone->ObjectId(), 9);
+    const DataEssence data;
+    const VideoEssence video;
+    for (const Essence* other : {static_cast<const Essence*>(&data), static_cast<const Essence*>(&video)}) {
+        const auto copy = other->Clone();
+        EXPECT_EQ(copy->GetType(), other->GetType());
+        EXPECT_EQ(&copy->Metadata(), &other->Metadata()) << "shared, as below";
+    }
+}
+
+TEST_F(EssenceClone, SharesOneEmptiedMetadataDictionaryAndTheTimecodeTablesButNotTheChannels)
+{
+    EXPECT_EQ(&clone->Metadata(), &source.Metadata());
+    EXPECT_TRUE(source.Metadata().Empty());
+    EXPECT_EQ(clone->Timecodes().Front().get(), source.Timecodes().Front().get());
+    EXPECT_NE(clone->TrackChannels().Front().get(), source.TrackChannels().Front().get());
+}
+
+TEST(LocationEquality, KindsDifferEvenWithTheSameUriText)
+{
+    FileLocation file;
+    file.Uri(URI("120/A7F3"));
+    const ZanLocation clip(ZanServerId(120), "A7F3");
+    ASSERT_EQ(file.Uri(), clip.Uri());
+    EXPECT_NE(file, clip);
+    EXPECT_NE(clip, file);
+
+    DaxProtectLocation protectedItem;
+    protectedItem.Uri(URI("storage://S1/P2/T3"));
+    DaxContentTrackLocation track;
+    ASSERT_TRUE(track.InitFromUri("storage://S1/P2/T3"));
+    EXPECT_NE(protectedItem, track);
+    EXPECT_NE(track, protectedItem);
+}
+
+// A caller's class that names the clip otherwise than its fields do.
+class MirroredLocation : public ZanLocation {
+public:
+    using ZanLocation::ZanLocation;
+    URI Uri() const override { return URI("mirror/" + SequenceId()); }
+};
+
+TEST(LocationEquality, DerivedClassesAreComparedByTheirOwnUri)
+{
+    const ZanLocation clip(ZanServerId(120), "A7F3");
+    const MirroredLocation mirrored(ZanServerId(120), "A7F3");
+    EXPECT_NE(clip, mirrored) << "same fields, another Uri()";
+    EXPECT_NE(mirrored, clip);
+    EXPECT_EQ(mirrored, MirroredLocation(ZanServerId(120), "A7F3"));
+}
+
+TEST(ZanLocationUri, IsSerialSlashSequenceAsGiven)
+{
+    EXPECT_EQ(ZanLocation(ZanServerId(120), "A7F3").Uri().Value(), "120/A7F3");
+    EXPECT_EQ(ZanLocation().Uri().Value(), "0/");
+    EXPECT_EQ(ZanLocation(ZanServerId(-10), "A").Uri().Value(), "-10/A");
+    EXPECT_EQ(ZanLocation(ZanServerId(10), "a/b").Uri().Value(), "10/a/b");
+}
+
+TEST(DaxContentTrackLocationUri, ReadsBackOnlyTheExactForm)
+{
+    for (const char* text : {"storage://S1/P2/T3", "storage:///P2/T3", "storage:////"}) {
+        SCOPED_TRACE(text);
+        DaxContentTrackLocation location;
+        EXPECT_TRUE(location.InitFromUri(text));
+        EXPECT_EQ(location.Uri().Value(), text);
+    }
+    DaxContentTrackLocation location;
+    ASSERT_TRUE(location.InitFromUri("storage://S1/P2/T3"));
+    EXPECT_EQ(location.ServerId(), Identifier("S1"));
+    EXPECT_EQ(location.PartitionId(), Identifier("P2"));
+    EXPECT_EQ(location.ContentTrackId(), Identifier("T3"));
+    for (const char* text : {"storage:/S1/P2/T3", "storage:///S1/P2/T3", "storage://S1/P2", "storage://S1/P2/T3/",
+                             "STORAGE://S1/P2/T3", "xstorage://S1/P2/T3", ""}) {
+        SCOPED_TRACE(text);
+        EXPECT_FALSE(location.InitFromUri(text));
+        EXPECT_EQ(location.Uri().Value(), "storage://S1/P2/T3") << "a refused text changes nothing";
+    }
+    location.PartitionId(Identifier("P/2"));
+    DaxContentTrackLocation readBack;
+    EXPECT_FALSE(readBack.InitFromUri(location.Uri().Value()));
+}
+
+// A field of a megabyte once overflowed the stack of the URI check.
+TEST(DaxContentTrackLocationUri, LongFieldsAreReadLikeShortOnes)
+{
+    const std::string field(1 << 20, 'x');
+    DaxContentTrackLocation location;
+    ASSERT_TRUE(location.InitFromUri("storage://S1/P2/" + field));
+    EXPECT_EQ(location.ContentTrackId(), Identifier(field));
+    EXPECT_FALSE(location.InitFromUri("storage://" + field));
+}
+
+TEST(DaxProtectLocationEquality, ServerCountsBesideTheUri)
+{
+    DaxProtectLocation left;
+    left.Uri(URI("any form at all"));
+    left.ServerId(Identifier("S1"));
+    DaxProtectLocation right = left;
+    EXPECT_EQ(left, right);
+    right.ServerId(Identifier("S2"));
+    EXPECT_NE(left, right);
+}
+
+// That the streams are compared by id, not by content, is checked by the first-difference property test.
+TEST(MediaResourceEquality, ComparesStreamIdsInOrderAndIgnoresObjectId)
+{
+    MediaResource resource = MakeResource();
+    resource.ObjectId(3);
+    EXPECT_EQ(resource, MakeResource());
+    std::swap(resource.Streams()[0], resource.Streams()[1]);
+    EXPECT_NE(resource, MakeResource());
+}
+
+TEST(MediaResourceClone, ClonesLoadedStreamsAndKeepsIdOnlyReferences)
+{
+    const MediaResource source = MakeResource();
+    MediaResource clone = source.Clone();
+    EXPECT_EQ(clone.ObjectId(), -1);
+    ASSERT_EQ(clone.Streams().size(), 2u);
+    EXPECT_NE(clone.Streams()[0].Pointer(), source.Streams()[0].Pointer());
+    EXPECT_EQ(clone.Streams()[0].Id(), StreamId("s1"));
+    EXPECT_EQ(clone.Streams()[1].Pointer(), nullptr);
+    EXPECT_THAT([&] { (void)clone.Streams()[1]->Id(); }, ThrowsMessage<std::runtime_error>(StrEq("null pointer")));
+
+    clone.Streams()[0].Value().Format(WrapperFormat::QuickTime);
+    EXPECT_EQ(source.Streams()[0]->Format(), WrapperFormat::MXFOP1a);
+    EXPECT_NE(&clone.Metadata(), &source.Metadata());
+}
+
+TEST(MediaResourceCopy, SharesStreamsAndMetadata)
+{
+    const MediaResource source = MakeResource();
+    const MediaResource copy = source;
+    EXPECT_EQ(copy.Streams()[0].Pointer(), source.Streams()[0].Pointer());
+    EXPECT_EQ(&copy.Metadata(), &source.Metadata());
 }
