@@ -1,13 +1,16 @@
 #include <Orvik/DataModel/MediaAssets/Annotation.h>
 #include <Orvik/DataModel/MediaAssets/MediaAsset.h>
-#include <Orvik/DataModel/MediaAssets/VideoEssence.h>
 
+#include "ArbitraryObjects.h"
 #include "TestProfiles.h"
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <memory>
+#include <set>
 #include <stdexcept>
+#include <string>
 #include <utility>
 
 using namespace Orvik::DataModel::MediaAssets;
@@ -16,116 +19,69 @@ using ::testing::ThrowsMessage;
 
 namespace {
 
+constexpr char kExpired[] = "Orvik::DataModel::MediaAssets::CompareEqualWeakPointer: weak pointer object is expired";
 constexpr char kNoOperatorMetadata[] =
     "Orvik::DataModel::MediaAssets::MediaAsset::PelkOperatorMetadata: No orvik.pelkoperator metadata available";
 
-// A fully populated asset and its clone: lineage by pointer, a track whose channel refers to a
-// loaded stream, a layout over that track, a loaded and an id-only resource, an annotation, an
-// operator profile.
-class PopulatedAsset : public ::testing::Test {
-protected:
-    PopulatedAsset() : source(MediaAssetId("asset"))
-    {
-        source.ObjectId(11);
-        source.AssetType(AssetType::media);
-        source.Ancestor(MediaAssetReference(std::make_shared<MediaAsset>(MediaAssetId("ancestor"))));
-        source.Parent(MediaAssetReference(MediaAssetId("parent")));
-
-        auto stream = std::make_unique<Stream>(StreamId("stream"));
-        stream->Essences().Add(VideoEssence());
-        resource = std::make_shared<MediaResource>(MediaResourceId("r1"));
-        resource->Adopt(std::move(stream));
-        source.MediaResources().Insert(MediaResourceReference(resource));
-        source.MediaResources().Insert(MediaResourceReference(MediaResourceId("r0")));
-
-        track = std::make_shared<Track>(TrackId("t1"), "Program");
-        auto channel = std::make_shared<TrackChannelToRemove>();
-        channel->Stream(StreamReference(resource->Streams()[0].Pointer()));
-        track->Channels().push_back(channel);
-        source.Tracks().Insert(track);
-
-        TrackLayoutItem item(Identifier("i1"));
-        item.Tracks().Insert(track);
-        auto layout = std::make_shared<TrackLayout>(Identifier("l1"));
-        layout->TrackLayoutItems().Insert(item);
-        layout->ObjectId(6);
-        source.TrackLayouts().Insert(layout);
-
-        auto annotation = std::make_shared<Annotation>(AnnotationType::CuePoint, "goal");
-        annotation->Metadata().Set(std::make_shared<TestProfile>(1));
-        source.Annotations().push_back(annotation);
-        source.Metadata().Set(std::make_shared<PelkOperatorMetadataProfile>());
-        clone = source.Clone();
-    }
-
-    std::shared_ptr<MediaResource> resource;
-    std::shared_ptr<Track> track;
-    MediaAsset source;
-    MediaAsset clone;
-};
-
 }  // namespace
 
-TEST_F(PopulatedAsset, CloneIsEqualWithObjectIdUnset)
+// Over generated assets, which have every shape: what a clone owns anew, keeps or shares. That it
+// equals its source is checked by the first-difference property test.
+TEST(MediaAssetClone, OwnsNewPartsButItsLayoutsPointAtTheSourceTracks)
 {
-    EXPECT_EQ(clone, source);
-    EXPECT_EQ(clone.ObjectId(), -1);
+    for (uint64_t seed = 0; seed < 50; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        const MediaAsset source = Orvik::Testing::ArbitraryObjects(seed).MediaAsset();
+        const MediaAsset clone = source.Clone();
+        ASSERT_EQ(clone, source);
+        EXPECT_EQ(clone.ObjectId(), -1);
+        EXPECT_EQ(clone.Ancestor().Pointer(), nullptr) << "only the lineage ids are kept";
+        EXPECT_EQ(clone.Parent().Pointer(), nullptr);
+        for (size_t i = 0; i < source.Metadata().Size(); ++i)
+            EXPECT_NE(clone.Metadata().Values()[i], source.Metadata().Values()[i]);
+        std::set<const Stream*> resourceStreams;  // those of the clone's resources
+        for (size_t r = 0; r < source.MediaResources().Size(); ++r) {
+            const auto& original = source.MediaResources()[r].Pointer();
+            const auto& resource = clone.MediaResources()[r].Pointer();
+            EXPECT_EQ(resource == nullptr, original == nullptr) << "id-only stays id-only";
+            if (resource == nullptr)
+                continue;
+            EXPECT_NE(resource, original);
+            for (const auto& stream : resource->Streams())
+                resourceStreams.insert(stream.Pointer().get());
+        }
+        for (size_t t = 0; t < source.Tracks().Size(); ++t) {
+            const Track& track = *clone.Tracks()[t];
+            EXPECT_NE(&track, source.Tracks()[t].get());
+            EXPECT_EQ(track.ObjectId(), -1);
+            for (size_t c = 0; c < track.Channels().size(); ++c) {
+                const TrackChannelToRemove& original = *source.Tracks()[t]->Channels()[c];
+                EXPECT_EQ(*track.Channels()[c], original);
+                const Stream* stream = track.Channels()[c]->Stream().Pointer().get();
+                EXPECT_EQ(stream == nullptr, original.Stream().Pointer() == nullptr) << "id-only stays id-only";
+                if (stream == nullptr)
+                    continue;
+                EXPECT_NE(stream, original.Stream().Pointer().get());
+                EXPECT_EQ(resourceStreams.count(stream), 0u) << "not shared with the cloned resources";
+            }
+        }
+        for (size_t l = 0; l < source.TrackLayouts().Size(); ++l) {
+            const TrackLayout& layout = *clone.TrackLayouts()[l];
+            EXPECT_NE(&layout, source.TrackLayouts()[l].get());
+            EXPECT_EQ(layout.ObjectId(), source.TrackLayouts()[l]->ObjectId());
+            for (size_t i = 0; i < layout.TrackLayoutItems().Size(); ++i)
+                for (size_t k = 0; k < layout.TrackLayoutItems()[i].Tracks().Size(); ++k)
+                    EXPECT_EQ(layout.TrackLayoutItems()[i].Tracks()[k].lock(),
+                              source.TrackLayouts()[l]->TrackLayoutItems()[i].Tracks()[k].lock());
+        }
+        for (size_t a = 0; a < source.Annotations().size(); ++a) {
+            EXPECT_NE(clone.Annotations()[a], source.Annotations()[a]);
+            EXPECT_EQ(clone.Annotations()[a]->ObjectId(), -1);
+        }
+    }
 }
 
-TEST_F(PopulatedAsset, CloneKeepsOnlyTheLineageIds)
-{
-    EXPECT_EQ(clone.Ancestor().Id(), MediaAssetId("ancestor"));
-    EXPECT_EQ(clone.Ancestor().Pointer(), nullptr);
-    EXPECT_THAT([&] { (void)clone.Ancestor()->Id(); }, ThrowsMessage<std::runtime_error>(StrEq("null pointer")));
-    EXPECT_EQ(clone.Parent().Id(), MediaAssetId("parent"));
-}
-
-TEST_F(PopulatedAsset, CloneRebuildsTracksWithTheirOwnStreams)
-{
-    const auto& clonedTrack = clone.Tracks().Front();
-    EXPECT_NE(clonedTrack, track);
-    EXPECT_EQ(clonedTrack->ObjectId(), -1);
-    const auto& channelStream = clonedTrack->Channels()[0]->Stream().Pointer();
-    EXPECT_NE(channelStream, resource->Streams()[0].Pointer());
-    const auto& clonedResource = clone.MediaResources()[1].Pointer();
-    EXPECT_NE(channelStream, clonedResource->Streams()[0].Pointer()) << "not shared with the cloned resource";
-}
-
-TEST_F(PopulatedAsset, CloneLayoutsStillPointAtTheSourceTracks)
-{
-    const auto& layout = clone.TrackLayouts().Front();
-    EXPECT_NE(layout, source.TrackLayouts().Front());
-    EXPECT_EQ(layout->ObjectId(), 6);
-    EXPECT_EQ(layout->TrackLayoutItems().Front().Tracks().Front().lock(), track);
-
-    const MediaAsset other = clone;
-    track.reset();
-    source = MediaAsset();
-    EXPECT_THAT([&] { (void)(clone == other); },
-                ThrowsMessage<std::runtime_error>(
-                    StrEq("Orvik::DataModel::MediaAssets::CompareEqualWeakPointer: weak pointer object is expired")));
-}
-
-TEST_F(PopulatedAsset, CloneDeepCopiesResourcesAnnotationsAndProfiles)
-{
-    EXPECT_EQ(clone.MediaResources()[0].Pointer(), nullptr) << "id-only stays id-only";
-    EXPECT_NE(clone.MediaResources()[1].Pointer(), resource);
-    EXPECT_NE(clone.Annotations()[0], source.Annotations()[0]);
-    EXPECT_EQ(clone.Annotations()[0]->ObjectId(), -1);
-    EXPECT_NE(&std::as_const(clone).PelkOperatorMetadata(), &source.PelkOperatorMetadata());
-}
-
-TEST(MediaAssetEquality, LooksAtIdsOfReferencesAndNotAtObjectId)
-{
-    MediaAsset left(MediaAssetId("a"));
-    MediaAsset right(MediaAssetId("a"));
-    left.Ancestor(MediaAssetReference(std::make_shared<MediaAsset>(MediaAssetId("x"))));
-    right.Ancestor(MediaAssetReference(MediaAssetId("x")));
-    right.ObjectId(4);
-    EXPECT_EQ(left, right);
-}
-
-TEST(MediaAssetEquality, NullAnnotationsAreNeverEqual)
+TEST(MediaAssetAnnotations, NullOnesAreNeverEqualAndStopAClone)
 {
     MediaAsset left;
     left.Annotations().push_back(nullptr);
@@ -134,6 +90,9 @@ TEST(MediaAssetEquality, NullAnnotationsAreNeverEqual)
     const Orvik::DataModel::MediaAssets::equal_to equal;
     EXPECT_FALSE(equal(nullptr, nullptr));
     EXPECT_FALSE(equal(std::make_shared<Annotation>(AnnotationType::CuePoint), nullptr));
+    EXPECT_THAT(
+        [&] { left.Clone(); },
+        ThrowsMessage<std::invalid_argument>(StrEq("Orvik::DataModel::MediaAssets::MediaAsset::Clone: null annotation")));
 }
 
 TEST(MediaAssetOperatorMetadata, IsFoundByClassUnderItsName)
@@ -147,7 +106,7 @@ TEST(MediaAssetOperatorMetadata, IsFoundByClassUnderItsName)
     auto profile = std::make_shared<PelkOperatorMetadataProfile>();
     asset.Metadata().Set(profile);
     EXPECT_TRUE(asset.HasPelkOperatorMetadata());
-    EXPECT_EQ(&asset.PelkOperatorMetadata(), profile.get());
+    EXPECT_EQ(&std::as_const(asset).PelkOperatorMetadata(), profile.get());
 }
 
 TEST(AnnotationEquality, ComparesThePointeesButNotTheirObjectIds)
@@ -172,4 +131,55 @@ TEST(AnnotationClone, OwnsEqualCopiesOfTheProfilesWithObjectIdUnset)
     EXPECT_NE(clone.Metadata().Values()[0], source.Metadata().Values()[0]);
     const Annotation copy = source;
     EXPECT_EQ(copy.Metadata().Values()[0], source.Metadata().Values()[0]) << "a plain copy shares profiles";
+}
+
+TEST(TrackOrder, IsByIdSoATrackOfTheSameIdWithAnotherNameGoesInFront)
+{
+    SortedVectorSharedPointer<Track> tracks;
+    tracks.Insert(std::make_shared<Track>(TrackId("t1"), "Program"));
+    tracks.Insert(std::make_shared<Track>(TrackId("t1"), "Clean"));
+    EXPECT_EQ(tracks.Front()->Name(), "Clean");
+    EXPECT_NE(*tracks.Front(), *tracks.Back()) << "the name is compared";
+    EXPECT_THROW(tracks.Insert(std::make_shared<Track>(TrackId("t1"), "Clean")), std::runtime_error);
+}
+
+// What a track clone owns is checked with the asset clone above.
+TEST(TrackCopy, SharesTheChannels)
+{
+    Track source(TrackId("t1"), "Program");
+    source.Channels().push_back(std::make_shared<TrackChannelToRemove>());
+    const Track copy = source;
+    EXPECT_EQ(copy.Channels()[0], source.Channels()[0]);
+}
+
+TEST(TrackLayoutClone, RefersToTheSameTracks)
+{
+    auto track = std::make_shared<Track>(TrackId("t1"), "Program");
+    TrackLayoutItem item(Identifier("i1"));
+    item.Tracks().Insert(track);
+    TrackLayout layout(Identifier("l1"));
+    layout.TrackLayoutItems().Insert(item);
+    layout.ObjectId(5);
+
+    // A copy, as an asset clone makes, is checked above.
+    const TrackLayout clone = layout.Clone();
+    EXPECT_EQ(clone.ObjectId(), -1);
+    EXPECT_EQ(clone.TrackLayoutItems().Front().Tracks().Front().lock(), track);
+    item.ObjectId(4);
+    const TrackLayoutItem itemClone = item.Clone();
+    EXPECT_EQ(itemClone.ObjectId(), -1);
+    EXPECT_EQ(itemClone.Tracks().Front().lock(), track);
+}
+
+TEST(TrackLayoutItemEquality, ThrowsOnceATrackIsGone)
+{
+    auto track = std::make_shared<Track>(TrackId("t1"), "Program");
+    TrackLayoutItem item(Identifier("i1"));
+    item.Tracks().Insert(track);
+    const TrackLayoutItem copy = item;
+    EXPECT_EQ(copy, item);
+    track.reset();
+    EXPECT_THAT([&] { (void)(copy == item); }, ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
+    EXPECT_THAT([&] { item.Tracks().Insert(std::make_shared<Track>(TrackId("t2"))); },
+                ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
 }
