@@ -532,11 +532,13 @@ TEST(FirstDifferenceProperty, NamesTheOneChangedFieldOfCopiesAndClones)
     EXPECT_GT(pairs, 0);
 }
 
-// Independently generated objects of every comparable class: mostly unequal, sometimes equal
-// (few choices), and always equal from the same seed; a difference exactly when operator== says so.
+// Independently generated objects of every comparable class: mostly unequal (other seeds give
+// other assets), sometimes equal (few choices), and always equal from the same seed; a difference
+// exactly when operator== says so.
 TEST(FirstDifferenceProperty, ReportsADifferenceExactlyWhenUnequal)
 {
     int unequal = 0;
+    int unequalAssets = 0;
     for (uint64_t seed = 0; seed < kSeeds; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         const bool sameSeed = seed % 3 == 0;
@@ -549,7 +551,9 @@ TEST(FirstDifferenceProperty, ReportsADifferenceExactlyWhenUnequal)
             ASSERT_FALSE(alike && sameSeed && difference) << difference->Path();
             unequal += difference ? 1 : 0;
         };
+        const int before = unequal;
         check(left.MediaAsset(), right.MediaAsset());
+        unequalAssets += unequal - before;
         check(left.MediaResource(), right.MediaResource());
         check(left.Stream(), right.Stream());
         check(*left.Essence(), *right.Essence());
@@ -569,6 +573,7 @@ TEST(FirstDifferenceProperty, ReportsADifferenceExactlyWhenUnequal)
             check(*leftGroup->Items()[0], *rightGroup->Items()[0], false);
     }
     EXPECT_GT(unequal, 0);
+    EXPECT_GE(unequalAssets, 240) << "nine in ten of the 266 pairs from other seeds";
 }
 
 TEST(ArbitraryObjects, SameBytesGiveEqualObjects)
@@ -580,15 +585,4 @@ TEST(ArbitraryObjects, SameBytesGiveEqualObjects)
     Any right(bytes.data(), bytes.size());
     EXPECT_TRUE(left.MediaAsset() == right.MediaAsset());
     EXPECT_TRUE(*left.AnglesMediaAssetGroup() == *right.AnglesMediaAssetGroup());
-}
-
-TEST(ArbitraryObjects, OtherSeedsGiveOtherAssets)
-{
-    int differing = 0;
-    for (uint64_t seed = 0; seed < 20; ++seed) {
-        Any left(seed);
-        Any right(seed + 1000);
-        differing += left.MediaAsset() != right.MediaAsset() ? 1 : 0;
-    }
-    EXPECT_GE(differing, 18);
 }
