@@ -32,10 +32,32 @@ void ExpectOwnProfiles(const MetadataProfileDictionary& copy, const MetadataProf
         EXPECT_NE(copy.Values()[i], original.Values()[i]);
 }
 
+// A stream clone: a new stream, its object id unset, its profiles its own. Its essences keep their
+// object ids, share their metadata dictionary with the source's (which the clone empties, by
+// design) and the timecode tables, and own new track channels.
+void ExpectStreamClone(const Stream& clone, const Stream& source)
+{
+    EXPECT_NE(&clone, &source);
+    EXPECT_EQ(clone.ObjectId(), -1);
+    ExpectOwnProfiles(clone.Metadata(), source.Metadata());
+    ASSERT_EQ(clone.Essences().Size(), source.Essences().Size());
+    for (int32_t e = 0; e < source.Essences().Size(); ++e) {
+        const Essence& essence = clone.Essences()[e];
+        const Essence& original = source.Essences()[e];
+        EXPECT_EQ(essence.ObjectId(), original.ObjectId());
+        EXPECT_EQ(&essence.Metadata(), &original.Metadata());
+        EXPECT_TRUE(original.Metadata().Empty());
+        for (size_t c = 0; c < original.TrackChannels().Size(); ++c)
+            EXPECT_NE(essence.TrackChannels()[c], original.TrackChannels()[c]);
+        for (size_t t = 0; t < original.Timecodes().Size(); ++t)
+            EXPECT_EQ(essence.Timecodes()[t], original.Timecodes()[t]);
+    }
+}
+
 }  // namespace
 
 // Over generated assets, which have every shape: what a clone of the asset, and so of its
-// resources, streams, tracks and annotations, owns anew, keeps or shares. That it equals its source
+// resources, streams, essences, tracks and annotations, owns anew, keeps or shares. That it equals its source
 // is checked by the first-difference property test.
 TEST(MediaAssetClone, OwnsNewPartsButItsLayoutsPointAtTheSourceTracks)
 {
@@ -64,9 +86,7 @@ TEST(MediaAssetClone, OwnsNewPartsButItsLayoutsPointAtTheSourceTracks)
                 EXPECT_EQ(stream == nullptr, originalStream == nullptr) << "id-only stays id-only";
                 if (stream == nullptr)
                     continue;
-                EXPECT_NE(stream, originalStream);
-                EXPECT_EQ(stream->ObjectId(), -1);
-                ExpectOwnProfiles(stream->Metadata(), originalStream->Metadata());
+                ExpectStreamClone(*stream, *originalStream);
                 resourceStreams.insert(stream.get());
             }
         }
@@ -81,7 +101,7 @@ TEST(MediaAssetClone, OwnsNewPartsButItsLayoutsPointAtTheSourceTracks)
                 EXPECT_EQ(stream == nullptr, original.Stream().Pointer() == nullptr) << "id-only stays id-only";
                 if (stream == nullptr)
                     continue;
-                EXPECT_NE(stream, original.Stream().Pointer().get());
+                ExpectStreamClone(*stream, *original.Stream());
                 EXPECT_EQ(resourceStreams.count(stream), 0u) << "not shared with the cloned resources";
             }
         }

@@ -7,7 +7,6 @@
 #include <Orvik/DataModel/MediaAssets/FileLocation.h>
 #include <Orvik/DataModel/MediaAssets/MediaResource.h>
 #include <Orvik/DataModel/MediaAssets/Stream.h>
-#include <Orvik/DataModel/MediaAssets/TimeCodeTable.h>
 #include <Orvik/DataModel/MediaAssets/TrackChannel.h>
 #include <Orvik/DataModel/MediaAssets/VideoEssence.h>
 #include <Orvik/DataModel/MediaAssets/ZanLocation.h>
@@ -87,7 +86,8 @@ TEST(StreamEquality, IgnoresObjectIdAndComparesEssencesAndLocationsInPositionAnd
     EXPECT_NE(MakeStream(), other);
 }
 
-// What a stream or resource clone owns is checked with the asset clone (in MediaAssetTest).
+// What a clone of a stream, its essences or a resource owns is checked with the asset clone (in
+// MediaAssetTest).
 TEST(StreamClone, StopsAtADuplicateChannelInAnEssence)
 {
     Stream stream = MakeStream();
@@ -173,45 +173,6 @@ TEST(TrackChannelEquality, NeedsTrackAndNumber)
     EXPECT_EQ(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("a"), 3).Clone());
     EXPECT_NE(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("b"), 3));
     EXPECT_NE(TrackChannel(Identifier("a"), 3), TrackChannel(Identifier("a"), 4));
-}
-
-// What a clone owns and what it shares with its source.
-class EssenceClone : public ::testing::Test {
-protected:
-    EssenceClone()
-    {
-        source.Nr(2);
-        source.FourCC("twos");
-        source.Metadata().Set(std::make_shared<TestProfile>(1));
-        source.TrackChannels().Insert(Channel("a", 1));
-        source.Timecodes().Insert(std::make_shared<TimeCodeTable>());
-        source.ObjectId(9);
-        clone = source.Clone();
-    }
-    AudioEssence source;
-    std::unique_ptr<Essence> clone;
-};
-
-// That a clone equals its source, for every kind, is checked by the first-difference property test.
-TEST_F(EssenceClone, KeepsTheKindAndTheObjectId)
-{
-    EXPECT_EQ(clone->GetType(), Essence::Audio);
-    EXPECT_EQ(clone->ObjectId(), 9);
-    const DataEssence data;
-    const VideoEssence video;
-    for (const Essence* other : {static_cast<const Essence*>(&data), static_cast<const Essence*>(&video)}) {
-        const auto copy = other->Clone();
-        EXPECT_EQ(copy->GetType(), other->GetType());
-        EXPECT_EQ(&copy->Metadata(), &other->Metadata()) << "shared, as below";
-    }
-}
-
-TEST_F(EssenceClone, SharesOneEmptiedMetadataDictionaryAndTheTimecodeTablesButNotTheChannels)
-{
-    EXPECT_EQ(&clone->Metadata(), &source.Metadata());
-    EXPECT_TRUE(source.Metadata().Empty());
-    EXPECT_EQ(clone->Timecodes().Front().get(), source.Timecodes().Front().get());
-    EXPECT_NE(clone->TrackChannels().Front().get(), source.TrackChannels().Front().get());
 }
 
 TEST(LocationEquality, KindsDifferEvenWithTheSameUriText)
