@@ -450,10 +450,14 @@ TEST(FirstDifference, KindComesBeforeFields)
     VideoEssence video;
     ExpectDifference(FirstDifference(audio, video), {"type", "Audio", "Video"});
 
+    // The same URI text: equality, too, compares the kind first.
     ZanLocation zan(ZanServerId(120), "A7F3");
     FileLocation file;
     file.Uri(URI("120/A7F3"));
+    ASSERT_EQ(zan.Uri(), file.Uri());
     ExpectDifference(FirstDifference(zan, file), {"type", "ZanLocation", "FileLocation"});
+    EXPECT_NE(zan, file);
+    EXPECT_NE(file, zan);
 
     MetadataProfileDictionary operatorProfile;
     operatorProfile.Set(std::make_shared<PelkOperatorMetadataProfile>());
@@ -470,9 +474,13 @@ TEST(FirstDifference, GroupItemsFollowTheLeftItemsClass)
     const MediaAssetReference asset(MediaAssetId("a1"));
     const MediaAssetGroupItem plain(asset);
     const AnglesMediaAssetGroupItem angles("cam 1", asset);
+    const MediaAssetGroupItem& anglesAsBase = angles;
     EXPECT_FALSE(FirstDifference(plain, angles).has_value());
+    EXPECT_TRUE(plain == anglesAsBase);
     ExpectDifference(FirstDifference(angles, plain),
                      {"", "AnglesMediaAssetGroupItem for \"a1\"", "MediaAssetGroupItem for \"a1\""});
+    EXPECT_FALSE(anglesAsBase == plain);
+    EXPECT_TRUE(anglesAsBase != plain);
 
     AnglesMediaAssetGroup left(MediaAssetGroupId("g"));
     left.Items().push_back(std::make_shared<AnglesMediaAssetGroupItem>(angles));
