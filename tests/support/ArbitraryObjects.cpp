@@ -64,16 +64,15 @@ Model::Identifier Id(ArbitraryObjects& any, const char* prefix, size_t index)
     return Model::Identifier(any.Text() + prefix + std::to_string(index));
 }
 
+// Empty, anywhere, or (mostly) a whole millisecond within a day or so.
 Model::TimePoint Point(ArbitraryObjects& any)
 {
-    switch (any.Below(4)) {
-    case 0:
+    const uint64_t choice = any.Below(4);
+    if (choice == 0)
         return Model::TimePoint::Empty();
-    case 1:
+    if (choice == 1)
         return Model::TimePoint(any.Between(std::numeric_limits<int64_t>::min(), std::numeric_limits<int64_t>::max()));
-    default:
-        return Model::TimePoint(any.Between(-1000, 100000) * 1000000);
-    }
+    return Model::TimePoint(any.Between(-1000, 100000) * 1000000);
 }
 
 Model::TimeBoundary Boundary(ArbitraryObjects& any)
@@ -134,8 +133,8 @@ std::unique_ptr<Model::Essence> MakeEssence(ArbitraryObjects& any,
                                             const std::vector<std::shared_ptr<Model::TimeCodeTable>>& tables)
 {
     std::unique_ptr<Model::Essence> essence;
-    switch (any.Below(3)) {
-    case 0: {
+    const uint64_t kind = any.Below(3);
+    if (kind == 0) {
         auto audio = std::make_unique<Model::AudioEssence>();
         audio->AudioCodec(Pick<Model::AudioCodingFormat>(any));
         audio->BitRate(SmallInt(any));
@@ -144,12 +143,9 @@ std::unique_ptr<Model::Essence> MakeEssence(ArbitraryObjects& any,
         audio->BitDepth(SmallInt(any));
         audio->FourCC(any.Text());
         essence = std::move(audio);
-        break;
-    }
-    case 1:
+    } else if (kind == 1) {
         essence = std::make_unique<Model::DataEssence>();
-        break;
-    default: {
+    } else {
         auto video = std::make_unique<Model::VideoEssence>();
         video->VideoCodec(Pick<Model::VideoCodingFormat>(any));
         video->BitRate(SmallInt(any));
@@ -165,8 +161,6 @@ std::unique_ptr<Model::Essence> MakeEssence(ArbitraryObjects& any,
         video->AspectRatio(Model::AspectRatio(SmallInt(any), SmallInt(any)));
         video->Boxing(Pick<Model::Boxing>(any));
         essence = std::move(video);
-        break;
-    }
     }
     essence->ObjectId(any.Between(-1, 1000));
     essence->ChannelCount(SmallInt(any));
@@ -249,16 +243,15 @@ Model::TrackLayout MakeLayout(ArbitraryObjects& any, size_t index, const std::ve
     return layout;
 }
 
+// Empty, an id only, or a loaded asset.
 Model::MediaAssetReference AssetReference(ArbitraryObjects& any)
 {
-    switch (any.Below(3)) {
-    case 0:
+    const uint64_t choice = any.Below(3);
+    if (choice == 0)
         return Model::MediaAssetReference();
-    case 1:
+    if (choice == 1)
         return Model::MediaAssetReference(Model::MediaAssetId(any.Text()));
-    default:
-        return Model::MediaAssetReference(std::make_shared<Model::MediaAsset>(Model::MediaAssetId(any.Text())));
-    }
+    return Model::MediaAssetReference(std::make_shared<Model::MediaAsset>(Model::MediaAssetId(any.Text())));
 }
 
 std::shared_ptr<Model::MediaAssetGroup> MakeGroup(ArbitraryObjects& any, bool angles)
@@ -391,8 +384,8 @@ std::unique_ptr<Model::Essence> ArbitraryObjects::Essence() { return MakeEssence
 
 std::unique_ptr<Model::Location> ArbitraryObjects::Location()
 {
-    switch (Below(4)) {
-    case 0: {
+    const uint64_t kind = Below(4);
+    if (kind == 0) {
         auto file = std::make_unique<Model::FileLocation>();
         file->Name(Text());
         file->Size(Between(-1, 1LL << 40));
@@ -403,22 +396,20 @@ std::unique_ptr<Model::Location> ArbitraryObjects::Location()
         file->Uri(Model::URI(Text()));
         return file;
     }
-    case 1: {
+    if (kind == 1) {
         auto contentTrack = std::make_unique<Model::DaxContentTrackLocation>();
         contentTrack->ServerId(Model::Identifier(Text()));
         contentTrack->PartitionId(Model::Identifier(Text()));
         contentTrack->ContentTrackId(Model::Identifier(Text()));
         return contentTrack;
     }
-    case 2: {
+    if (kind == 2) {
         auto protect = std::make_unique<Model::DaxProtectLocation>();
         protect->ServerId(Model::Identifier(Text()));
         protect->Uri(Model::URI(Text()));
         return protect;
     }
-    default:
-        return std::make_unique<Model::ZanLocation>(Model::ZanServerId(static_cast<int>(Between(-1, 3) * 10)), Text());
-    }
+    return std::make_unique<Model::ZanLocation>(Model::ZanServerId(static_cast<int>(Between(-1, 3) * 10)), Text());
 }
 
 Model::Stream ArbitraryObjects::Stream() { return MakeStream(*this, 0); }
