@@ -22,6 +22,9 @@ add_custom_target(coverage
         --exclude-throw-branches
         --print-summary
         --output "${ORVIK_COVERAGE_REPORT}"
+        # Only this build's data: without a search path gcovr scans the whole source tree, and
+        # another build directory's stale data there makes gcov fail.
+        "${PROJECT_BINARY_DIR}"
     COMMAND "${CMAKE_COMMAND}" -E echo "Per-file figures: ${ORVIK_COVERAGE_REPORT}"
     WORKING_DIRECTORY "${PROJECT_BINARY_DIR}"
     COMMENT "Coverage of the library by the tests"
