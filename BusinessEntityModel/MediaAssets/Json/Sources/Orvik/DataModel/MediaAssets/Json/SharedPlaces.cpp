@@ -4,6 +4,16 @@
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
+template <typename Matches>
+size_t SharedPlaces::Probe(size_t hash, Matches matches) const
+{
+    const size_t mask = index.size() - 1;
+    size_t slot = hash & mask;
+    while (index[slot] != 0 && !matches(places[index[slot] - 1]))
+        slot = (slot + 1) & mask;
+    return slot;
+}
+
 void SharedPlaces::Add(const Path& path, const std::type_info& type, std::shared_ptr<void> object)
 {
     Grow();
@@ -43,23 +53,12 @@ void SharedPlaces::Clear() noexcept
 
 size_t SharedPlaces::Slot(size_t hash, std::string_view pointer) const
 {
-    const size_t mask = index.size() - 1;
-    size_t slot = hash & mask;
-    for (; index[slot] != 0; slot = (slot + 1) & mask) {
-        const Place& place = places[index[slot] - 1];
-        if (place.hash == hash && Pointer(place) == pointer)
-            break;
-    }
-    return slot;
+    return Probe(hash, [&](const Place& place) { return place.hash == hash && Pointer(place) == pointer; });
 }
 
 size_t SharedPlaces::FreeSlot(size_t hash) const
 {
-    const size_t mask = index.size() - 1;
-    size_t slot = hash & mask;
-    while (index[slot] != 0)
-        slot = (slot + 1) & mask;
-    return slot;
+    return Probe(hash, [](const Place&) { return false; });
 }
 
 void SharedPlaces::Grow()

@@ -41,6 +41,9 @@ private:
         size_t slot;
     };
     std::string_view Pointer(const Place& place) const { return {texts.data() + place.start, place.size}; }
+    /// The first slot from where `hash` starts that is free or holds a place that `matches`.
+    template <typename Matches>
+    size_t Probe(size_t hash, Matches matches) const;
     /// The slot of the index that holds the place with `hash` and `pointer`, or the free slot
     /// where the search for it ends.
     size_t Slot(size_t hash, std::string_view pointer) const;
