@@ -1,6 +1,5 @@
-// Assets and what they hold (tracks, layouts, annotations), then the groups of assets.
+// Assets: what a clone owns, keeps or shares, their annotations and their operator metadata.
 
-#include <Orvik/DataModel/MediaAssets/AnglesMediaAssetGroup.h>
 #include <Orvik/DataModel/MediaAssets/Annotation.h>
 #include <Orvik/DataModel/MediaAssets/MediaAsset.h>
 
@@ -22,16 +21,8 @@ using ::testing::ThrowsMessage;
 
 namespace {
 
-constexpr char kExpired[] = "Orvik::DataModel::MediaAssets::CompareEqualWeakPointer: weak pointer object is expired";
 constexpr char kNoOperatorMetadata[] =
     "Orvik::DataModel::MediaAssets::MediaAsset::PelkOperatorMetadata: No orvik.pelkoperator metadata available";
-constexpr char kNoAnglesOperatorMetadata[] =
-    "Orvik::DataModel::MediaAssets::AnglesPelkOperatorMetadataProfile: No orvik.pelkoperator metadata available";
-
-MediaAssetReference AssetReference(const char* id)
-{
-    return MediaAssetReference(std::make_shared<MediaAsset>(MediaAssetId(id)));
-}
 
 // A deep copy: a dictionary of its own with the same names, each profile a copy.
 void ExpectOwnProfiles(const MetadataProfileDictionary& copy, const MetadataProfileDictionary& original)
@@ -178,116 +169,4 @@ TEST(AnnotationCopy, SharesTheProfiles)
     source.Metadata().Set(std::make_shared<TestProfile>(1));
     const Annotation copy = source;
     EXPECT_EQ(copy.Metadata().Values()[0], source.Metadata().Values()[0]);
-}
-
-TEST(TrackOrder, IsByIdSoATrackOfTheSameIdWithAnotherNameGoesInFront)
-{
-    SortedVectorSharedPointer<Track> tracks;
-    tracks.Insert(std::make_shared<Track>(TrackId("t1"), "Program"));
-    tracks.Insert(std::make_shared<Track>(TrackId("t1"), "Clean"));
-    EXPECT_EQ(tracks.Front()->Name(), "Clean");
-    EXPECT_NE(*tracks.Front(), *tracks.Back()) << "the name is compared";
-    EXPECT_THROW(tracks.Insert(std::make_shared<Track>(TrackId("t1"), "Clean")), std::runtime_error);
-}
-
-// What a track clone owns is checked with the asset clone above.
-TEST(TrackCopy, SharesTheChannels)
-{
-    Track source(TrackId("t1"), "Program");
-    source.Channels().push_back(std::make_shared<TrackChannelToRemove>());
-    const Track copy = source;
-    EXPECT_EQ(copy.Channels()[0], source.Channels()[0]);
-}
-
-TEST(TrackLayoutClone, RefersToTheSameTracks)
-{
-    auto track = std::make_shared<Track>(TrackId("t1"), "Program");
-    TrackLayoutItem item(Identifier("i1"));
-    item.Tracks().Insert(track);
-    TrackLayout layout(Identifier("l1"));
-    layout.TrackLayoutItems().Insert(item);
-    layout.ObjectId(5);
-
-    // A copy, as an asset clone makes, is checked above.
-    const TrackLayout clone = layout.Clone();
-    EXPECT_EQ(clone.ObjectId(), -1);
-    EXPECT_EQ(clone.TrackLayoutItems().Front().Tracks().Front().lock(), track);
-    item.ObjectId(4);
-    const TrackLayoutItem itemClone = item.Clone();
-    EXPECT_EQ(itemClone.ObjectId(), -1);
-    EXPECT_EQ(itemClone.Tracks().Front().lock(), track);
-}
-
-TEST(TrackLayoutItemEquality, ThrowsOnceATrackIsGone)
-{
-    auto track = std::make_shared<Track>(TrackId("t1"), "Program");
-    TrackLayoutItem item(Identifier("i1"));
-    item.Tracks().Insert(track);
-    const TrackLayoutItem copy = item;
-    EXPECT_EQ(copy, item);
-    track.reset();
-    EXPECT_THAT([&] { (void)(copy == item); }, ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
-    EXPECT_THAT([&] { item.Tracks().Insert(std::make_shared<Track>(TrackId("t2"))); },
-                ThrowsMessage<std::runtime_error>(StrEq(kExpired)));
-}
-
-TEST(AnglesMediaAssetGroup, FindsOnlyTheAnglesProfileOrThrowsNamingIt)
-{
-    AnglesMediaAssetGroup group;
-    const AnglesMediaAssetGroup& view = group;
-    EXPECT_EQ(group.Type(), "AnglesMediaAssetGroup");
-    EXPECT_FALSE(group.HasPelkOperatorMetadata());
-    EXPECT_THAT([&] { view.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoAnglesOperatorMetadata)));
-    group.Metadata().Set(std::make_shared<PelkOperatorMetadataProfile>());
-    EXPECT_FALSE(group.HasPelkOperatorMetadata());
-    EXPECT_THAT([&] { group.PelkOperatorMetadata(); }, ThrowsMessage<std::runtime_error>(StrEq(kNoAnglesOperatorMetadata)));
-    auto profile = std::make_shared<AnglesPelkOperatorMetadataProfile>(PelkId(ZanServerId(10), 1, 2, 3));
-    group.Metadata().Set(profile);
-    EXPECT_TRUE(group.HasPelkOperatorMetadata());
-    EXPECT_EQ(&group.PelkOperatorMetadata(), profile.get());
-    EXPECT_EQ(group.PelkOperatorMetadata().PelkId().ToString(), "123/10");
-}
-
-TEST(AnglesMediaAssetGroupItemEquality, NeedsTheNameAndTheAssetIdOnly)
-{
-    const AnglesMediaAssetGroupItem wide("wide", AssetReference("a"));
-    EXPECT_NE(wide, AnglesMediaAssetGroupItem("tight", AssetReference("a")));
-    EXPECT_EQ(wide, AnglesMediaAssetGroupItem("wide", MediaAssetReference(MediaAssetId("a"))));
-}
-
-// That an angles item equals a plain one only from the plain side is checked with FirstDifference.
-TEST(MediaAssetGroupLookup, FindsItemsByAssetIdOrNamesTheMissingOne)
-{
-    AnglesMediaAssetGroup group(MediaAssetGroupId("g"));
-    auto item = std::make_shared<AnglesMediaAssetGroupItem>("wide", AssetReference("a"));
-    group.Items().push_back(item);
-    EXPECT_TRUE(group.HasAsset(MediaAssetId("a")));
-    EXPECT_EQ(group.ItemReference(MediaAssetId("a")), item);
-    EXPECT_EQ(&group.Item(MediaAssetId("a")), item.get());
-    EXPECT_EQ(group.Asset(MediaAssetId("a")).Id(), MediaAssetId("a"));
-    EXPECT_EQ(group.Find(MediaAssetId("b")), group.Items().end());
-    EXPECT_THAT([&] { group.Item(MediaAssetId("b")); },
-                ThrowsMessage<std::runtime_error>(
-                    StrEq("Orvik::DataModel::MediaAssets::MediaAssetGroup::Item: no item for asset b")));
-}
-
-TEST(AnglesMediaAssetGroupLookup, PlainItemThrowsNamingItsAsset)
-{
-    AnglesMediaAssetGroup group(MediaAssetGroupId("g"));
-    group.Items().push_back(std::make_shared<MediaAssetGroupItem>(AssetReference("c")));
-    EXPECT_THAT([&] { group.Item(MediaAssetId("c")); },
-                ThrowsMessage<std::runtime_error>(
-                    StrEq("Orvik::DataModel::MediaAssets::AnglesMediaAssetGroup::Item: not an angles item for asset c")));
-}
-
-TEST(MediaAssetGroupEquality, ComparesItemsInOrderThroughTheirOwnEquality)
-{
-    AnglesMediaAssetGroup left(MediaAssetGroupId("g"));
-    AnglesMediaAssetGroup right(MediaAssetGroupId("g"));
-    left.Items().push_back(std::make_shared<AnglesMediaAssetGroupItem>("wide", AssetReference("a")));
-    right.Items().push_back(std::make_shared<AnglesMediaAssetGroupItem>("wide", AssetReference("a")));
-    right.ObjectId(3);
-    EXPECT_EQ(left, right);
-    right.Items().push_back(std::make_shared<AnglesMediaAssetGroupItem>("tight", AssetReference("b")));
-    EXPECT_NE(left, right);
 }
