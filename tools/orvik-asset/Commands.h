@@ -26,14 +26,27 @@ struct Streams {
 /// Writes the sample asset, or with `group` the sample group, as indented JSON.
 int RunExample(bool group, Streams& streams);
 
-/// Writes the document in `file` as a tree (painted with `color`), or with `json` as its
-/// canonical indented JSON.
+/// Writes the document in `file` (or the asset that a media file describes) as a tree (painted with `color`), or with `json`
+/// as its canonical indented JSON.
 int RunShow(const std::string& file, bool json, bool color, Streams& streams);
 
 /// Checks each file, first that it reads as a document, then the model's rules, and writes one
 /// line per problem: "file: pointer: message". Nothing is written for a valid file. A file that
 /// cannot be opened is an error line on `err`; the other files are still checked.
 int RunValidate(const std::vector<std::string>& files, Streams& streams);
+
+/// What `orvik-asset probe` writes and how it answers.
+struct ProbeOptions {
+    bool resource = false;  // the media resource's document instead of the asset's
+    bool strict = false;    // exit status 1 when a mapping fell back to unknown
+    bool progress = false;  // a progress bar on the error stream, for a person at a terminal
+};
+
+/// Describes each media file as an asset (or a resource) document: one file as indented JSON,
+/// several as one compact document per line in the order given, probed in parallel. Warnings go
+/// to `err` as "orvik-asset: FILE: warning: ...", a file that cannot be read as one line
+/// "orvik-asset: FILE: reason" (the other files are still probed).
+int RunProbe(const std::vector<std::string>& files, const ProbeOptions& options, Streams& streams);
 
 /// Writes the first difference between the documents in `left` and `right`, or that they are
 /// equal.

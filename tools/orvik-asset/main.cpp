@@ -18,7 +18,8 @@ namespace {
 
 using namespace Orvik::AssetTool;
 
-constexpr char kFileHelp[] = "The JSON document of an asset or a group; - reads standard input";
+constexpr char kFileHelp[] =
+    "The JSON document of an asset or a group, or a media file (probed first); - reads standard input";
 
 /// Colour only for a person at a terminal, and never when the NO_COLOR convention asks for none.
 bool WantsColor(bool noColor)
@@ -26,6 +27,9 @@ bool WantsColor(bool noColor)
     const char* noColorVariable = std::getenv("NO_COLOR");
     return !noColor && (noColorVariable == nullptr || *noColorVariable == '\0') && isatty(STDOUT_FILENO) == 1;
 }
+
+/// A progress bar only for a person watching the error stream.
+bool WantsProgress() { return isatty(STDERR_FILENO) == 1; }
 
 /// The one line that a usage error gets, pointing at the help of the command it concerns.
 int UsageError(const CLI::App& app, const std::string& message, std::ostream& err)
@@ -44,8 +48,8 @@ int main(int argc, char** argv)
     CLI::App app("Looks at, checks and compares media asset documents.", "orvik-asset");
     app.set_version_flag("--version", std::string("orvik-asset ") + ORVIK_ASSET_VERSION, "Print the version and exit");
     app.require_subcommand(1);
-    app.footer("Exit status: 0 when done (valid, equal), 1 when validate finds a problem or diff a difference,\n"
-               "2 on a usage error or input that cannot be read.");
+    app.footer("Exit status: 0 when done (valid, equal), 1 when validate finds a problem, diff a difference\n"
+               "or probe --strict a value it cannot map, 2 on a usage error or input that cannot be read.");
 
     std::string kind = "asset";
     CLI::App* example = app.add_subcommand("example", "Write the built-in sample asset as JSON to standard output");
@@ -67,6 +71,18 @@ int main(int argc, char** argv)
         app.add_subcommand("validate", "Check documents: their JSON form, then the model's rules; one line per problem");
     validate->add_option("FILE", files, kFileHelp)->required();
     validate->footer("Each problem is written as FILE: JSON-POINTER: MESSAGE; nothing is written for a valid file.");
+
+    std::vector<std::string> media;
+    ProbeOptions probeOptions;
+    CLI::App* probe = app.add_subcommand("probe", "Describe media files as asset documents, from their headers");
+    probe->add_option("FILE", media, "A media file (MXF, QuickTime, MP4, WAVE, ...)")->required();
+    probe->add_flag("--resource", probeOptions.resource, "Write the media resource's document instead of the asset's");
+    probe->add_flag("--strict", probeOptions.strict,
+                    "Exit with status 1 when a value could not be mapped and was left at unknown");
+    probe->footer("One file gives its indented document; several files give one compact document per line, in the\n"
+                  "order given, probed in parallel on every core. Warnings (what could not be mapped) go to\n"
+                  "standard error as FILE: warning: MESSAGE; a file that cannot be read gets one line there, and\n"
+                  "the other files are still probed.");
 
     std::string left;
     std::string right;
@@ -97,6 +113,10 @@ int main(int argc, char** argv)
             status = RunValidate(files, streams);
         else if (*diff)
             status = RunDiff(left, right, streams);
+        else if (*probe) {
+            probeOptions.progress = WantsProgress();
+            status = RunProbe(media, probeOptions, streams);
+        }
     } catch (const std::exception& error) {
         std::cout.flush();
         std::cerr << "orvik-asset: " << Printable(error.what()) << '\n';

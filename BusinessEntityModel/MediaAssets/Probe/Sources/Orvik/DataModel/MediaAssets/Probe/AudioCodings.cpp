@@ -14,6 +14,8 @@ struct Row {
     BitRateMode bitRateMode;
 };
 
+// One row a line, read as a table.
+// clang-format off
 const Row kRows[] = {
     // Linear PCM of every sample size, sign, byte order and layout.
     {AV_CODEC_ID_PCM_S8, F::PCM, M::cbr},
@@ -59,6 +61,7 @@ const Row kRows[] = {
     {AV_CODEC_ID_WMAVOICE, F::WMA, M::unknown},
     {AV_CODEC_ID_DOLBY_E, F::DolbyE, M::unknown},
 };
+// clang-format on
 
 }  // namespace
 
@@ -67,8 +70,7 @@ AudioCoding MapAudioCoding(int stream, AVCodecID codec, Warnings& warnings)
     for (const Row& row : kRows)
         if (row.codec == codec)
             return {row.format, row.bitRateMode};
-    warnings.Unmapped("audio stream " + std::to_string(stream) + ": no audio coding format for "
-                      + avcodec_get_name(codec));
+    warnings.Unmapped("audio stream " + std::to_string(stream) + ": no audio coding format for " + avcodec_get_name(codec));
     return {AudioCodingFormat::unknown, BitRateMode::unknown};
 }
 

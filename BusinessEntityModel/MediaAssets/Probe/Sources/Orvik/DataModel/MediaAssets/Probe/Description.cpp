@@ -246,14 +246,34 @@ std::shared_ptr<TimeCodeTable> StartTimeCode(const AVFormatContext& context, int
 
 TimeBoundary At(int64_t nanoseconds) { return TimeBoundary(MediaAssets::TimePoint(nanoseconds), false); }
 
-/// From 0 to the file's duration; no stretch and unset boundaries when the file gives none.
-TimeBoundsArray Span(int64_t duration)
+/// Where the last frame starts (or, without pictures, the last audio sample): the out point, which
+/// lies inside the stretch it closes, as a stretch holds its in point and not its out point. -1
+/// when no rate tells, or when the file is a single frame.
+int64_t LastFrame(const AVFormatContext& context, int64_t duration)
+{
+    AVRational rate{0, 0};
+    for (unsigned i = 0; i < context.nb_streams && rate.num <= 0; ++i)
+        if (context.streams[i]->codecpar->codec_type == AVMEDIA_TYPE_VIDEO)
+            rate = FrameRate(*context.streams[i]);
+    for (unsigned i = 0; i < context.nb_streams && rate.num <= 0; ++i)
+        if (context.streams[i]->codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
+            rate = {context.streams[i]->codecpar->sample_rate, 1};
+    if (rate.num <= 0 || rate.den <= 0)
+        return -1;
+    const int64_t last = duration - av_rescale(kNanosecondsPerSecond, rate.den, rate.num);
+    return last > 0 ? last : -1;
+}
+
+/// One stretch from 0 to the file's duration, in at 0 and out at the last frame; no stretch and
+/// unset boundaries when the file gives no duration.
+TimeBoundsArray Span(int64_t duration, int64_t lastFrame)
 {
     TimeBoundsArray bounds;
     if (duration >= 0) {
         bounds.Insert(TimeBounds(At(0), At(duration)));
         bounds.InBoundary(At(0));
-        bounds.OutBoundary(At(duration));
+        if (lastFrame > 0)
+            bounds.OutBoundary(At(lastFrame));
     }
     return bounds;
 }
@@ -268,8 +288,7 @@ DateTime CreationDate(const AVFormatContext& context)
     if (!valid)
         return 0;
     const int64_t nanoseconds = point.ToNanoseconds();
-    return static_cast<DateTime>(nanoseconds / kNanosecondsPerSecond
-                                 - (nanoseconds % kNanosecondsPerSecond < 0 ? 1 : 0));
+    return static_cast<DateTime>(nanoseconds / kNanosecondsPerSecond - (nanoseconds % kNanosecondsPerSecond < 0 ? 1 : 0));
 }
 
 /// A track of the asset fed by `channels` channels of essence `essence`, which records them.
@@ -299,9 +318,10 @@ ProbeResult Describe(const OpenedMedia& media, const std::string& name, std::uni
     const int64_t duration = context.duration != AV_NOPTS_VALUE && context.duration >= 0
         ? av_rescale(context.duration, kNanosecondsPerSecond, AV_TIME_BASE)
         : -1;
+    const TimeBoundsArray span = Span(duration, LastFrame(context, duration));
     auto stream = std::make_shared<MediaAssets::Stream>(StreamId(name + "/stream"));
     stream->Format(MapWrapperFormat(Container(media), warnings));
-    stream->Timebounds(Span(duration));
+    stream->Timebounds(span);
     if (duration < 0)
         warnings.Omitted("the file gives no duration: the time bounds are left unset");
 
@@ -325,7 +345,7 @@ ProbeResult Describe(const OpenedMedia& media, const std::string& name, std::uni
 
     result.resource = std::make_shared<MediaResource>(MediaResourceId(name + "/resource"));
     result.resource->Name(name);
-    result.resource->Timebounds(Span(duration));
+    result.resource->Timebounds(span);
     result.resource->CreationDate(CreationDate(context));
     result.resource->Streams().push_back(StreamReference(stream));
 
@@ -334,7 +354,7 @@ ProbeResult Describe(const OpenedMedia& media, const std::string& name, std::uni
     const char* title = Tag(context.metadata, "title");
     asset.Name(title != nullptr ? title : name);
     asset.AssetType(AssetType::media);
-    asset.PhysicalTimebounds(Span(duration));
+    asset.PhysicalTimebounds(span);
     asset.CreationDate(result.resource->CreationDate());
     asset.MediaResources().Insert(MediaResourceReference(result.resource));
     int videos = 0;
@@ -343,12 +363,12 @@ ProbeResult Describe(const OpenedMedia& media, const std::string& name, std::uni
         Essence& essence = stream->Essences()[i];
         if (essence.GetType() == Essence::Video) {
             ++videos;
-            asset.Tracks().Insert(MakeTrack("V" + std::to_string(videos), "Video " + std::to_string(videos), stream,
-                                            essence, 1));
+            asset.Tracks().Insert(
+                MakeTrack("V" + std::to_string(videos), "Video " + std::to_string(videos), stream, essence, 1));
         } else if (essence.GetType() == Essence::Audio) {
             ++audios;
-            asset.Tracks().Insert(MakeTrack("A" + std::to_string(audios), "Audio " + std::to_string(audios), stream,
-                                            essence, essence.ChannelCount()));
+            asset.Tracks().Insert(MakeTrack("A" + std::to_string(audios), "Audio " + std::to_string(audios), stream, essence,
+                                            essence.ChannelCount()));
         }
     }
     result.warnings = warnings.Take();

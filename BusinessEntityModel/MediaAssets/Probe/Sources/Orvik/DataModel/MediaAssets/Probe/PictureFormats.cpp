@@ -14,11 +14,8 @@ struct ChromaRow {
 };
 
 const ChromaRow kChromaRows[] = {
-    {0, 0, ChromaSubSampling::CS_444},
-    {1, 0, ChromaSubSampling::CS_422},
-    {1, 1, ChromaSubSampling::CS_420},
-    {2, 0, ChromaSubSampling::CS_411},
-    {2, 2, ChromaSubSampling::CS_410},
+    {0, 0, ChromaSubSampling::CS_444}, {1, 0, ChromaSubSampling::CS_422}, {1, 1, ChromaSubSampling::CS_420},
+    {2, 0, ChromaSubSampling::CS_411}, {2, 2, ChromaSubSampling::CS_410},
 };
 
 struct ColorRow {

@@ -28,9 +28,8 @@ TimeCodeStandard MapTimeCodeStandard(const std::string& text, AVRational rate, b
     for (const Row& row : kRows)
         if (av_cmp_q(row.rate, rate) == 0 && row.drop == drop)
             return row.standard;
-    warnings.Unmapped("timecode " + text + ": no timecode standard for " + (drop ? "drop-frame " : "")
-                      + "timecode at " + std::to_string(rate.num) + "/" + std::to_string(rate.den)
-                      + " frames per second");
+    warnings.Unmapped("timecode " + text + ": no timecode standard for " + (drop ? "drop-frame " : "") + "timecode at "
+                      + std::to_string(rate.num) + "/" + std::to_string(rate.den) + " frames per second");
     return TimeCodeStandard::NotSet;
 }
 

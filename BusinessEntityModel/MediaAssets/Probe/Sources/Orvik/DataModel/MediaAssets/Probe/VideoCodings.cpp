@@ -48,6 +48,8 @@ bool HdRaster(const Facts& video)
     return (video.width == 1920 && video.height == 1080) || (video.width == 1280 && video.height == 720);
 }
 
+// One row a line, read as a table.
+// clang-format off
 const Row kRows[] = {
     {AV_CODEC_ID_PRORES, [](const Facts& v) { return ProRes(v, FF_PROFILE_PRORES_PROXY, "apco"); }, F::AppleProRes422Proxy, M::vbr},
     {AV_CODEC_ID_PRORES, [](const Facts& v) { return ProRes(v, FF_PROFILE_PRORES_LT, "apcs"); }, F::AppleProRes422LT, M::vbr},
@@ -93,6 +95,7 @@ const Row kRows[] = {
     {AV_CODEC_ID_MPEG4, Any, F::MPEG4, M::unknown},
     {AV_CODEC_ID_RAWVIDEO, Any, F::Raw, M::unknown},
 };
+// clang-format on
 
 /// "dnxhd profile DNXHR LB, 8-bit, 4:2:2, 1920x1080, 120000000 b/s": what the warning names.
 std::string Seen(const Facts& video)
@@ -100,8 +103,8 @@ std::string Seen(const Facts& video)
     std::string seen = avcodec_get_name(video.codec);
     if (const char* profile = avcodec_profile_name(video.codec, video.profile))
         seen += std::string(" profile ") + profile;
-    seen += ", " + std::to_string(video.bitDepth) + "-bit, " + ToString(video.chroma) + ", "
-        + std::to_string(video.width) + "x" + std::to_string(video.height);
+    seen += ", " + std::to_string(video.bitDepth) + "-bit, " + ToString(video.chroma) + ", " + std::to_string(video.width)
+        + "x" + std::to_string(video.height);
     if (video.bitRate > 0)
         seen += ", " + std::to_string(video.bitRate) + " b/s";
     return seen;
