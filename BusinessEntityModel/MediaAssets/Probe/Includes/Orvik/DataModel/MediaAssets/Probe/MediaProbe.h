@@ -19,7 +19,9 @@ namespace Orvik::DataModel::MediaAssets::Probe {
 /// ... in the order of the file's streams. The stream's location is a FileLocation with the
 /// absolute, percent-encoded file:// URI of the file, its size and its dates.
 ///
-/// Throws ProbeError when the file cannot be described; std::bad_alloc when memory runs out.
+/// Throws ProbeError when the file cannot be described, also when FFmpeg cannot get the memory
+/// that the file's headers ask for (a corrupt size and a lack of memory look alike there);
+/// std::bad_alloc when memory runs out anywhere else.
 /// Safe to call from several threads at once, on different files.
 ProbeResult ProbeFile(const std::string& path);
 
