@@ -22,12 +22,13 @@ constexpr int kHeadSize = 64;
 
 /// The demuxers the probe uses: containers and elementary streams that describe themselves.
 /// A demuxer not listed here is refused, listed or not below.
+// clang-format off
 constexpr std::string_view kDemuxers[] = {
-    "mov,mp4,m4a,3gp,3g2,mj2", "mxf", "wav", "w64", "aiff", "avi", "mpegts", "mpeg", "matroska,webm",
-    "asf", "flv", "ogg", "gxf", "dv", "mpegvideo", "m4v", "h264", "hevc", "vc1", "mjpeg", "mp3", "aac",
-    "ac3", "eac3", "flac", "caf", "bmp_pipe", "dpx_pipe", "j2k_pipe", "jpeg_pipe", "png_pipe", "sgi_pipe",
-    "tiff_pipe",
+    "mov,mp4,m4a,3gp,3g2,mj2", "mxf", "wav", "w64", "aiff", "avi", "mpegts", "mpeg", "matroska,webm", "asf", "flv",
+    "ogg", "gxf", "dv", "mpegvideo", "m4v", "h264", "hevc", "vc1", "mjpeg", "mp3", "aac", "ac3", "eac3", "flac", "caf",
+    "bmp_pipe", "dpx_pipe", "j2k_pipe", "jpeg_pipe", "png_pipe", "sgi_pipe", "tiff_pipe",
 };
+// clang-format on
 
 /// Demuxers that read names inside the file and open what they name: the probe refuses them
 /// with a message that says so.
@@ -36,14 +37,10 @@ struct Follower {
     const char* what;
 };
 constexpr Follower kFollowers[] = {
-    {"hls", "an HLS playlist"},
-    {"concat", "a concat list"},
-    {"image2", "an image sequence"},
-    {"webm_dash_manifest", "a DASH manifest"},
-    {"imf", "an IMF composition"},
-    {"sdp", "a session description"},
-    {"rtsp", "a stream description"},
-    {"tee", "a list of outputs"},
+    {"hls", "an HLS playlist"},       {"concat", "a concat list"},
+    {"image2", "an image sequence"},  {"webm_dash_manifest", "a DASH manifest"},
+    {"imf", "an IMF composition"},    {"sdp", "a session description"},
+    {"rtsp", "a stream description"}, {"tee", "a list of outputs"},
 };
 
 /// FFmpeg logs through one process-wide callback. The probe's own calls run with this flag set on
@@ -73,10 +70,7 @@ public:
 
 int Read(void* opaque, uint8_t* buffer, int size) { return static_cast<ByteSource*>(opaque)->Read(buffer, size); }
 
-int64_t Seek(void* opaque, int64_t offset, int whence)
-{
-    return static_cast<ByteSource*>(opaque)->Seek(offset, whence);
-}
+int64_t Seek(void* opaque, int64_t offset, int whence) { return static_cast<ByteSource*>(opaque)->Seek(offset, whence); }
 
 /// The one way out of the file that a demuxer could take, closed.
 int RefuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**) { return AVERROR(EPERM); }
@@ -97,13 +91,14 @@ void CheckDemuxer(const AVInputFormat& demuxer, const std::string& name)
 {
     for (const Follower& follower : kFollowers)
         if (follower.demuxer == demuxer.name)
-            throw ProbeError(name, std::string("refused: ") + follower.what
-                                       + " names other files or URLs, which the probe does not follow");
+            throw ProbeError(name,
+                             std::string("refused: ") + follower.what
+                                 + " names other files or URLs, which the probe does not follow");
     for (std::string_view listed : kDemuxers)
         if (listed == demuxer.name)
             return;
-    throw ProbeError(name, std::string("not a format that the probe reads: ") + demuxer.long_name + " ("
-                               + demuxer.name + ")");
+    throw ProbeError(name,
+                     std::string("not a format that the probe reads: ") + demuxer.long_name + " (" + demuxer.name + ")");
 }
 
 /// The options of one open: the limits, and no protocol but reading a file.
