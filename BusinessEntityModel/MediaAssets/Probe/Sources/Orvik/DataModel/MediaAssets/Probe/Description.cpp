@@ -244,6 +244,16 @@ std::shared_ptr<TimeCodeTable> StartTimeCode(const AVFormatContext& context, int
     return table;
 }
 
+/// The file's duration in nanoseconds; -1 when the file gives none, or one that 64-bit nanoseconds
+/// cannot hold (about 292 years: a corrupt header), which av_rescale would turn into INT64_MIN.
+int64_t FileDuration(const AVFormatContext& context)
+{
+    constexpr int64_t kLongest = INT64_MAX / (kNanosecondsPerSecond / AV_TIME_BASE);
+    if (context.duration == AV_NOPTS_VALUE || context.duration < 0 || context.duration > kLongest)
+        return -1;
+    return av_rescale(context.duration, kNanosecondsPerSecond, AV_TIME_BASE);
+}
+
 TimeBoundary At(int64_t nanoseconds) { return TimeBoundary(MediaAssets::TimePoint(nanoseconds), false); }
 
 /// Where the last frame starts (or, without pictures, the last audio sample): the out point, which
@@ -315,9 +325,7 @@ ProbeResult Describe(const OpenedMedia& media, const std::string& name, std::uni
     ProbeResult result;
     Warnings warnings;
 
-    const int64_t duration = context.duration != AV_NOPTS_VALUE && context.duration >= 0
-        ? av_rescale(context.duration, kNanosecondsPerSecond, AV_TIME_BASE)
-        : -1;
+    const int64_t duration = FileDuration(context);
     const TimeBoundsArray span = Span(duration, LastFrame(context, duration));
     auto stream = std::make_shared<MediaAssets::Stream>(StreamId(name + "/stream"));
     stream->Format(MapWrapperFormat(Container(media), warnings));
