@@ -58,6 +58,11 @@ std::size_t FromEnd(py::ssize_t index, std::size_t size)
 void BindJson(py::module_& module);
 #endif
 
+#ifdef ORVIK_PYTHON_PROBE
+// The media probe, bound when the probe library is built (ProbeBindings.cpp).
+void BindProbe(py::module_& module);
+#endif
+
 }  // namespace Orvik::Python
 
 PYBIND11_MODULE(orvik_media_assets, module)
@@ -82,5 +87,8 @@ PYBIND11_MODULE(orvik_media_assets, module)
     BindFirstDifference(module);
 #ifdef ORVIK_PYTHON_JSON
     BindJson(module);
+#endif
+#ifdef ORVIK_PYTHON_PROBE
+    BindProbe(module);
 #endif
 }
