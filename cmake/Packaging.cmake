@@ -31,6 +31,16 @@ if(PROJECT_IS_TOP_LEVEL)
         string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
             ", liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
     endif()
+    # The media probe likewise, on FFmpeg's shared libraries (found by dpkg-shlibdeps).
+    if(TARGET OrvikMediaAssetsProbe)
+        list(APPEND CPACK_COMPONENTS_ALL probe)
+        set(CPACK_DEBIAN_PROBE_PACKAGE_NAME "liborvikmediaassetsprobe${PROJECT_VERSION_MAJOR}")
+        set(CPACK_DEBIAN_PROBE_PACKAGE_SHLIBDEPS ON)
+        set(CPACK_DEBIAN_PROBE_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+        set(CPACK_COMPONENT_PROBE_DESCRIPTION "In-memory data model of media assets: media probe, shared library")
+        string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+            ", liborvikmediaassetsprobe${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+    endif()
     set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "In-memory data model of media assets: shared library")
     set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "In-memory data model of media assets: headers, CMake package and pkg-config file")
     # The orvik-asset tool: a package of its own, which needs the shared libraries of the same version.
@@ -40,8 +50,9 @@ if(PROJECT_IS_TOP_LEVEL)
         set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION "utils")
         set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
         # The project's own shared objects are found in the build tree, and depended on by name.
-        set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}" "${PROJECT_BINARY_DIR}/BusinessEntityModel/MediaAssets/Json")
-        set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+        set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}"
+            "${PROJECT_BINARY_DIR}/BusinessEntityModel/MediaAssets/Json" "${PROJECT_BINARY_DIR}/BusinessEntityModel/MediaAssets/Probe")
+        set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "liborvikmediaassets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), liborvikmediaassetsprobe${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
         set(CPACK_COMPONENT_TOOLS_DESCRIPTION "In-memory data model of media assets: the orvik-asset command-line tool")
     endif()
     if(ORVIK_BUILD_PYTHON)
@@ -55,6 +66,10 @@ if(PROJECT_IS_TOP_LEVEL)
         if(TARGET OrvikMediaAssetsJson)
             string(APPEND CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
                 ", liborvikmediaassetsjson${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+        endif()
+        if(TARGET OrvikMediaAssetsProbe)
+            string(APPEND CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+                ", liborvikmediaassetsprobe${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
         endif()
         set(CPACK_COMPONENT_PYTHON_DESCRIPTION "In-memory data model of media assets: Python module orvik_media_assets")
     endif()
