@@ -26,6 +26,17 @@ const char* Tag(const AVDictionary* tags, const char* key)
 
 int32_t Clamped(int64_t value) { return static_cast<int32_t>(std::min<int64_t>(std::max<int64_t>(value, 0), INT32_MAX)); }
 
+/// The number held in an enumeration field that a demuxer may have filled from the file unchecked:
+/// a number outside a C enumeration's range must not be read as that type in C++.
+template <typename Enumeration>
+int Number(const Enumeration& field)
+{
+    static_assert(sizeof(Enumeration) == sizeof(int));
+    int number = 0;
+    std::memcpy(&number, &field, sizeof number);
+    return number;
+}
+
 /// The exact rational, reduced to fit the model's 32-bit fields; 0/0 when the stream gives none.
 MediaAssets::Rate ExactRate(AVRational rate)
 {
@@ -159,7 +170,7 @@ std::unique_ptr<VideoEssence> Video(const AVFormatContext& context, const AVStre
     video->Height(codec.height);
     video->Width(codec.width);
     video->ChromaSubSampling(facts.chroma);
-    video->ColorSpace(MapColorSpace(stream.index, codec.color_space, codec.color_range, warnings));
+    video->ColorSpace(MapColorSpace(stream.index, Number(codec.color_space), Number(codec.color_range), warnings));
     video->ScanMode(scan.mode);
     video->FourCC(facts.fourCC);
     const AVRational pixel = stream.sample_aspect_ratio.num > 0 ? stream.sample_aspect_ratio : codec.sample_aspect_ratio;

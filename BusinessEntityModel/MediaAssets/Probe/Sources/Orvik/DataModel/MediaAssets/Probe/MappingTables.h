@@ -76,7 +76,9 @@ AudioCoding MapAudioCoding(int stream, AVCodecID codec, Warnings& warnings);
 ChromaSubSampling MapChromaSubSampling(int stream, AVPixelFormat pixelFormat, Warnings& warnings);
 
 /// From the colour matrix and range; an unspecified matrix is unknown without a warning.
-ColorSpace MapColorSpace(int stream, AVColorSpace matrix, AVColorRange range, Warnings& warnings);
+/// `matrix` and `range` as the numbers the demuxer stored, which a file can set outside FFmpeg's
+/// enumerations (QuickTime's colour atom is copied unchecked).
+ColorSpace MapColorSpace(int stream, int matrix, int range, Warnings& warnings);
 
 struct Scan {
     ScanMode mode;

@@ -72,14 +72,15 @@ ChromaSubSampling MapChromaSubSampling(int stream, AVPixelFormat pixelFormat, Wa
     return ChromaSubSampling::unknown;
 }
 
-ColorSpace MapColorSpace(int stream, AVColorSpace matrix, AVColorRange range, Warnings& warnings)
+ColorSpace MapColorSpace(int stream, int matrix, int range, Warnings& warnings)
 {
     if (matrix == AVCOL_SPC_UNSPECIFIED)
         return ColorSpace::unknown;
     for (const ColorRow& row : kColorRows)
         if (row.matrix == matrix && (row.range == AVCOL_RANGE_UNSPECIFIED || row.range == range))
             return row.space;
-    const char* name = av_color_space_name(matrix);
+    const char* name =
+        matrix >= 0 && matrix < AVCOL_SPC_NB ? av_color_space_name(static_cast<AVColorSpace>(matrix)) : nullptr;
     warnings.Unmapped(StreamName(stream) + "no colour space for the colour matrix "
                       + (name != nullptr ? name : std::to_string(matrix)));
     return ColorSpace::unknown;
