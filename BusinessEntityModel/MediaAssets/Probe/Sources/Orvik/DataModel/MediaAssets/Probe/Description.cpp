@@ -66,15 +66,20 @@ std::string FourCC(uint32_t tag)
     return text;
 }
 
-/// The nominal bit rate: the stream's, or the maximum its decoder buffer declares.
-int64_t BitRate(const AVStream& stream)
+/// The nominal bit rate: the stream's, or the maximum its decoder buffer declares, or, for DNxHD,
+/// whose frames all have the size of their class, the first frame's size at the frame rate.
+int64_t BitRate(OpenedMedia& media, const AVStream& stream)
 {
     if (stream.codecpar->bit_rate > 0)
         return stream.codecpar->bit_rate;
     size_t size = 0;
     const uint8_t* data = av_stream_get_side_data(&stream, AV_PKT_DATA_CPB_PROPERTIES, &size);
-    if (data != nullptr && size >= sizeof(AVCPBProperties))
+    if (data != nullptr && size >= sizeof(AVCPBProperties)
+        && reinterpret_cast<const AVCPBProperties*>(data)->max_bitrate > 0)
         return reinterpret_cast<const AVCPBProperties*>(data)->max_bitrate;
+    const AVRational rate = FrameRate(stream);
+    if (stream.codecpar->codec_id == AV_CODEC_ID_DNXHD && rate.num > 0 && rate.den > 0)
+        return av_rescale(media.FirstPacketSize(stream.index) * 8, rate.num, rate.den);
     return 0;
 }
 
@@ -142,9 +147,9 @@ bool IsStillImage(const AVFormatContext& context)
     return length > 5 && std::strcmp(name + length - 5, "_pipe") == 0;
 }
 
-std::unique_ptr<VideoEssence> Video(const AVFormatContext& context, const AVStream& stream, ProbeResult& result,
-                                    Warnings& warnings)
+std::unique_ptr<VideoEssence> Video(OpenedMedia& media, const AVStream& stream, ProbeResult& result, Warnings& warnings)
 {
+    const AVFormatContext& context = media.Context();
     const AVCodecParameters& codec = *stream.codecpar;
     auto video = std::make_unique<VideoEssence>();
     VideoFacts facts;
@@ -156,7 +161,7 @@ std::unique_ptr<VideoEssence> Video(const AVFormatContext& context, const AVStre
     facts.chroma = MapChromaSubSampling(stream.index, static_cast<AVPixelFormat>(codec.format), warnings);
     facts.width = codec.width;
     facts.height = codec.height;
-    facts.bitRate = BitRate(stream);
+    facts.bitRate = BitRate(media, stream);
     facts.inMxf = std::strcmp(context.iformat->name, "mxf") == 0;
     facts.stillImage = IsStillImage(context);
     const VideoCoding coding = MapVideoCoding(facts, warnings);
@@ -330,7 +335,7 @@ std::shared_ptr<Track> MakeTrack(const std::string& id, const std::string& name,
 
 }  // namespace
 
-ProbeResult Describe(const OpenedMedia& media, const std::string& name, std::unique_ptr<Location> location)
+ProbeResult Describe(OpenedMedia& media, const std::string& name, std::unique_ptr<Location> location)
 {
     const AVFormatContext& context = media.Context();
     ProbeResult result;
@@ -349,7 +354,7 @@ ProbeResult Describe(const OpenedMedia& media, const std::string& name, std::uni
         const AVStream& source = *context.streams[i];
         std::unique_ptr<Essence> essence;
         if (source.codecpar->codec_type == AVMEDIA_TYPE_VIDEO)
-            essence = Video(context, source, result, warnings);
+            essence = Video(media, source, result, warnings);
         else if (source.codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
             essence = Audio(source, warnings);
         else

@@ -12,6 +12,6 @@ namespace Orvik::DataModel::MediaAssets::Probe {
 
 /// The asset, resource and stream that describe `media`, with ids made from `name`; the stream
 /// gets `location` when there is one.
-ProbeResult Describe(const OpenedMedia& media, const std::string& name, std::unique_ptr<Location> location);
+ProbeResult Describe(OpenedMedia& media, const std::string& name, std::unique_ptr<Location> location);
 
 }  // namespace Orvik::DataModel::MediaAssets::Probe

@@ -59,7 +59,7 @@ ProbeResult ProbeFile(const std::string& path)
         throw ProbeError(path, "cannot read: not a regular file");
     if (status.st_size == 0)
         throw ProbeError(path, kEmpty);
-    const OpenedMedia media(source, path, path);
+    OpenedMedia media(source, path, path);
     return Describe(media, std::filesystem::path(path).filename().string(), Locate(path, status));
 }
 
@@ -68,7 +68,7 @@ ProbeResult ProbeBytes(std::string_view bytes, const std::string& name)
     if (bytes.empty())
         throw ProbeError(name, kEmpty);
     MemorySource source(bytes);
-    const OpenedMedia media(source, name, name);
+    OpenedMedia media(source, name, name);
     return Describe(media, name, nullptr);
 }
 

@@ -19,6 +19,8 @@ constexpr int kProbeSize = 4 << 20;
 constexpr int64_t kAnalyzeDuration = 2 * AV_TIME_BASE;
 constexpr int kIoBufferSize = 1 << 16;
 constexpr int kHeadSize = 64;
+/// How many packets FirstPacketSize() reads at most.
+constexpr int kPacketLimit = 64;
 
 /// The demuxers the probe uses: containers and elementary streams that describe themselves.
 /// A demuxer not listed here is refused, listed or not below.
@@ -169,6 +171,26 @@ OpenedMedia::OpenedMedia(ByteSource& source, const std::string& url, const std::
         Fail(found, name, std::string("cannot read the stream information of the ") + demuxer->long_name + " file");
     if (context->nb_streams == 0)
         throw ProbeError(name, std::string("the ") + demuxer->long_name + " file holds no stream");
+}
+
+int64_t OpenedMedia::FirstPacketSize(int index)
+{
+    if (!packetsRead) {
+        packetsRead = true;
+        const Silence silence;
+        firstPacketSizes.assign(format->nb_streams, 0);
+        const std::unique_ptr<AVPacket, void (*)(AVPacket*)> packet(av_packet_alloc(),
+                                                                    [](AVPacket* unused) { av_packet_free(&unused); });
+        if (!packet)
+            throw std::bad_alloc();
+        for (int read = 0; read < kPacketLimit && av_read_frame(format.get(), packet.get()) >= 0; ++read) {
+            int64_t& size = firstPacketSizes[static_cast<size_t>(packet->stream_index)];
+            if (size == 0)
+                size = packet->size;
+            av_packet_unref(packet.get());
+        }
+    }
+    return firstPacketSizes[static_cast<size_t>(index)];
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Probe

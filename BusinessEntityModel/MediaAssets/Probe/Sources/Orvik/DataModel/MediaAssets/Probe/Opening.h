@@ -3,8 +3,10 @@
 #include "ByteSource.h"
 #include "FFmpeg.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Orvik::DataModel::MediaAssets::Probe {
 
@@ -21,6 +23,9 @@ public:
     const AVFormatContext& Context() const { return *format; }
     /// The first bytes of the file, for what FFmpeg does not report (Matroska's DocType).
     const std::string& Head() const { return head; }
+    /// The size of the first packet of stream `index`, in bytes: from the packets that reading
+    /// the stream information buffered, and a few more at most; 0 when none comes.
+    int64_t FirstPacketSize(int index);
 
 private:
     struct IoDeleter {
@@ -31,6 +36,8 @@ private:
     };
 
     std::string head;
+    std::vector<int64_t> firstPacketSizes;
+    bool packetsRead = false;
     std::unique_ptr<AVIOContext, IoDeleter> io;
     std::unique_ptr<AVFormatContext, FormatDeleter> format;
 };
