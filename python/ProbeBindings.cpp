@@ -29,8 +29,7 @@ void BindProbe(py::module_& module)
         });
 
     // Released: the class lives as long as the interpreter, past the module's static destructors.
-    static const py::handle probeError =
-        py::exception<Probe::ProbeError>(module, "ProbeError", PyExc_ValueError).release();
+    static const py::handle probeError = py::exception<Probe::ProbeError>(module, "ProbeError", PyExc_ValueError).release();
     py::register_exception_translator([](std::exception_ptr pending) {
         try {
             if (pending)
