@@ -2,9 +2,11 @@
 # what is expected; any difference fails the test and shows both sides.
 #   cmake -DTOOL=<orvik-asset> -DARGS=<arguments, separated by |> -DSTATUS=<exit status>
 #         -DEXPECTED=<expected/name> [-DSTDIN=<file for standard input>]
-#         [-DPIPE_FROM=<arguments of a first run whose output is the standard input>] -P RunTool.cmake
+#         [-DPIPE_FROM=<arguments of a first run whose output is the standard input>]
+#         [-DMASK=<regular expression>] -P RunTool.cmake
 # EXPECTED.out and EXPECTED.err hold the expected standard output and standard error; a missing
-# file means that nothing may be written there.
+# file means that nothing may be written there. Every match of MASK in the standard output reads
+# <varies> before it is compared.
 
 string(REPLACE "|" ";" args "${ARGS}")
 set(input)
@@ -27,6 +29,10 @@ foreach(earlier IN LISTS statuses)
         message(FATAL_ERROR "the first run of the pipeline failed with ${earlier}:\n${err}")
     endif()
 endforeach()
+
+if(MASK)
+    string(REGEX REPLACE "${MASK}" "<varies>" out "${out}")
+endif()
 
 set(failures)
 set(out_name "standard output")
