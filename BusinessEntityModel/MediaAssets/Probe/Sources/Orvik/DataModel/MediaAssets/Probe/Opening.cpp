@@ -175,22 +175,31 @@ OpenedMedia::OpenedMedia(ByteSource& source, const std::string& url, const std::
 
 int64_t OpenedMedia::FirstPacketSize(int index)
 {
-    if (!packetsRead) {
-        packetsRead = true;
-        const Silence silence;
-        firstPacketSizes.assign(format->nb_streams, 0);
-        const std::unique_ptr<AVPacket, void (*)(AVPacket*)> packet(av_packet_alloc(),
-                                                                    [](AVPacket* unused) { av_packet_free(&unused); });
-        if (!packet)
-            throw std::bad_alloc();
-        for (int read = 0; read < kPacketLimit && av_read_frame(format.get(), packet.get()) >= 0; ++read) {
-            int64_t& size = firstPacketSizes[static_cast<size_t>(packet->stream_index)];
-            if (size == 0)
-                size = packet->size;
-            av_packet_unref(packet.get());
+    const auto wanted = static_cast<size_t>(index);
+    const auto size = [&]() -> int64_t { return wanted < firstPacketSizes.size() ? firstPacketSizes[wanted] : 0; };
+    if (size() != 0 || packetsRead >= kPacketLimit)
+        return size();
+    const Silence silence;
+    const std::unique_ptr<AVPacket, void (*)(AVPacket*)> packet(av_packet_alloc(),
+                                                                [](AVPacket* unused) { av_packet_free(&unused); });
+    if (!packet)
+        throw std::bad_alloc();
+    // Only until this stream's first packet: each packet read past those buffered is read from the
+    // file. Reading may find streams that the headers did not declare.
+    while (size() == 0 && packetsRead < kPacketLimit) {
+        if (av_read_frame(format.get(), packet.get()) < 0) {
+            packetsRead = kPacketLimit;  // nothing more comes
+            break;
         }
+        ++packetsRead;
+        const auto stream = static_cast<size_t>(packet->stream_index);
+        if (stream >= firstPacketSizes.size())
+            firstPacketSizes.resize(stream + 1, 0);
+        if (firstPacketSizes[stream] == 0)
+            firstPacketSizes[stream] = packet->size;
+        av_packet_unref(packet.get());
     }
-    return firstPacketSizes[static_cast<size_t>(index)];
+    return size();
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Probe

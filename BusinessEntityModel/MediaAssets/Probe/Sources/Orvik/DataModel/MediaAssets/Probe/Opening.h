@@ -37,7 +37,7 @@ private:
 
     std::string head;
     std::vector<int64_t> firstPacketSizes;
-    bool packetsRead = false;
+    int packetsRead = 0;
     std::unique_ptr<AVIOContext, IoDeleter> io;
     std::unique_ptr<AVFormatContext, FormatDeleter> format;
 };
