@@ -15,9 +15,9 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -242,7 +242,9 @@ std::pair<int32_t, int32_t> Ratio(const std::string& text)
 std::string ReadAll(const std::string& path)
 {
     std::ifstream file(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
 }
 
 const Stream& StreamOf(const ProbeResult& result) { return *result.resource->Streams().at(0).Pointer(); }
