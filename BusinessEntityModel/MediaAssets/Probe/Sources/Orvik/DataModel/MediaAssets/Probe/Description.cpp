@@ -91,18 +91,20 @@ int BitDepth(const AVCodecParameters& codec)
         const AVPixFmtDescriptor* descriptor = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(codec.format));
         return descriptor != nullptr ? descriptor->comp[0].depth : 0;
     }
-    return codec.bits_per_coded_sample > 0 ? codec.bits_per_coded_sample : av_get_bits_per_sample(codec.codec_id);
+    // Linear and companded PCM have a sample size; a compressed coding has none, whatever size
+    // the container's sample description states.
+    return av_get_bits_per_sample(codec.codec_id);
 }
 
 /// MXF's operational pattern label "060e2b34.04010101.0d010201.01010900" as its name "OP1a";
-/// "OP-Atom" for that pattern; the label itself for any other.
+/// "OP-Atom" for that pattern; the label itself for any other. The label's version byte (the
+/// eighth) takes no part.
 std::string OperationalPattern(const char* label)
 {
     if (label == nullptr)
         return "";
     const std::string text = label;
-    constexpr char kGeneralised[] = "060e2b34.04010101.0d010201.";
-    if (text.size() != 35 || text.compare(0, sizeof kGeneralised - 1, kGeneralised) != 0)
+    if (text.size() != 35 || text.compare(0, 15, "060e2b34.040101") != 0 || text.compare(17, 10, ".0d010201.") != 0)
         return text;
     const std::string complexity = text.substr(27, 4);
     if (complexity.compare(0, 2, "10") == 0)
@@ -165,13 +167,14 @@ std::unique_ptr<VideoEssence> Video(OpenedMedia& media, const AVStream& stream, 
     facts.inMxf = std::strcmp(context.iformat->name, "mxf") == 0;
     facts.stillImage = IsStillImage(context);
     const VideoCoding coding = MapVideoCoding(facts, warnings);
-    const Scan scan = MapScan(codec.field_order);
+    const Scan scan = MapScan(codec.codec_id, codec.field_order);
 
     video->VideoCodec(coding.format);
     video->BitRate(Clamped(facts.bitRate));
     video->BitRateMode(coding.bitRateMode);
     video->BitDepth(facts.bitDepth);
-    video->FrameRate(ExactRate(FrameRate(stream)));
+    if (!facts.stillImage)  // a single picture has no frame rate, whatever its demuxer assumes
+        video->FrameRate(ExactRate(FrameRate(stream)));
     video->Height(codec.height);
     video->Width(codec.width);
     video->ChromaSubSampling(facts.chroma);

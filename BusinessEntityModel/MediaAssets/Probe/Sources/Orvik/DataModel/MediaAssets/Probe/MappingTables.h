@@ -85,8 +85,9 @@ struct Scan {
     FieldOrdering dominantField;
 };
 
-/// From the field order that the stream declares.
-Scan MapScan(AVFieldOrder order);
+/// From the field order that the stream declares, else from a coding that has no interlaced
+/// pictures.
+Scan MapScan(AVCodecID codec, AVFieldOrder order);
 
 /// The standard of a timecode counted at `rate` frames per second, `drop` when its text says
 /// drop-frame.

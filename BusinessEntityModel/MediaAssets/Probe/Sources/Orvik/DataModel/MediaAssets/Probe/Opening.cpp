@@ -150,7 +150,13 @@ OpenedMedia::OpenedMedia(ByteSource& source, const std::string& url, const std::
     }
 
     const AVInputFormat* demuxer = nullptr;
-    const int score = av_probe_input_buffer2(io.get(), &demuxer, url.c_str(), nullptr, 0, kProbeSize);
+    int score = av_probe_input_buffer2(io.get(), &demuxer, url.c_str(), nullptr, 0, kProbeSize);
+    // The image sequence demuxer wins some single pictures by their name's extension alone; without
+    // the name, the picture's own demuxer recognises it by its content.
+    if (score >= 0 && demuxer != nullptr && std::string_view(demuxer->name) == "image2") {
+        demuxer = nullptr;  // probing stops at once when given a demuxer
+        score = av_probe_input_buffer2(io.get(), &demuxer, "", nullptr, 0, kProbeSize);
+    }
     if (score < 0 || demuxer == nullptr)
         Fail(score, name, "not a media file: no format recognised");
     CheckDemuxer(*demuxer, name);

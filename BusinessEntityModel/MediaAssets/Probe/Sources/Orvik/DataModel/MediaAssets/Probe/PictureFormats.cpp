@@ -44,14 +44,21 @@ struct ScanRow {
     Scan scan;
 };
 
-// Top (or bottom) field coded first and displayed first, or coded first and displayed second:
-// the dominant field is the one displayed first.
+// FFmpeg's demuxers name an interlaced picture's field order by the field displayed first, then
+// the other (QuickTime's "bottom field earliest" comes as BT, for instance), whatever its
+// documentation says of coding order.
 const ScanRow kScanRows[] = {
     {AV_FIELD_PROGRESSIVE, {ScanMode::progressive, FieldOrdering::unknown}},
     {AV_FIELD_TT, {ScanMode::interlaced, FieldOrdering::top}},
-    {AV_FIELD_BT, {ScanMode::interlaced, FieldOrdering::top}},
+    {AV_FIELD_TB, {ScanMode::interlaced, FieldOrdering::top}},
     {AV_FIELD_BB, {ScanMode::interlaced, FieldOrdering::bottom}},
-    {AV_FIELD_TB, {ScanMode::interlaced, FieldOrdering::bottom}},
+    {AV_FIELD_BT, {ScanMode::interlaced, FieldOrdering::bottom}},
+};
+
+/// Codings that have no interlaced pictures: progressive whether or not the stream says so.
+const AVCodecID kProgressiveCodings[] = {
+    AV_CODEC_ID_MPEG1VIDEO, AV_CODEC_ID_VP8,   AV_CODEC_ID_VP9, AV_CODEC_ID_PNG, AV_CODEC_ID_BMP,
+    AV_CODEC_ID_TIFF,       AV_CODEC_ID_TARGA, AV_CODEC_ID_DPX, AV_CODEC_ID_SGI,
 };
 
 std::string StreamName(int stream) { return "video stream " + std::to_string(stream) + ": "; }
@@ -86,11 +93,14 @@ ColorSpace MapColorSpace(int stream, int matrix, int range, Warnings& warnings)
     return ColorSpace::unknown;
 }
 
-Scan MapScan(AVFieldOrder order)
+Scan MapScan(AVCodecID codec, AVFieldOrder order)
 {
     for (const ScanRow& row : kScanRows)
         if (row.order == order)
             return row.scan;
+    for (const AVCodecID progressive : kProgressiveCodings)
+        if (progressive == codec)
+            return {ScanMode::progressive, FieldOrdering::unknown};
     return {ScanMode::unknown, FieldOrdering::unknown};
 }
 

@@ -28,8 +28,11 @@ TimeCodeStandard MapTimeCodeStandard(const std::string& text, AVRational rate, b
     for (const Row& row : kRows)
         if (av_cmp_q(row.rate, rate) == 0 && row.drop == drop)
             return row.standard;
-    warnings.Unmapped("timecode " + text + ": no timecode standard for " + (drop ? "drop-frame " : "") + "timecode at "
-                      + std::to_string(rate.num) + "/" + std::to_string(rate.den) + " frames per second");
+    if (rate.num <= 0 || rate.den <= 0)
+        warnings.Unmapped("timecode " + text + ": no timecode standard, as the file gives no frame rate");
+    else
+        warnings.Unmapped("timecode " + text + ": no timecode standard for " + (drop ? "drop-frame " : "") + "timecode at "
+                          + std::to_string(rate.num) + "/" + std::to_string(rate.den) + " frames per second");
     return TimeCodeStandard::NotSet;
 }
 
