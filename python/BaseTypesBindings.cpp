@@ -64,7 +64,7 @@ void BindBaseTypes(py::module_& module)
         .def(
             "get",
             [](const MetadataProfileDictionary& self, const FullyQualifiedName& name) {
-                return self.Contains(name) ? SharedProfile(self, name) : nullptr;
+                return OrNone(self.Contains(name) ? SharedProfile(self, name) : nullptr);
             },
             "The profile filed under `name`, or None.")
         .def("keys", &MetadataProfileDictionary::Keys)

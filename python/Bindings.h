@@ -13,8 +13,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
+#include <type_traits>
 #include <typeinfo>
 #include <utility>
 #include <vector>
@@ -165,6 +167,41 @@ std::string ContainerRepr(const char* name, const Container& container)
     return std::string(name) + "(" + Repr(ToList(container)) + ")";
 }
 
+/// A shared pointer that may be null as Python sees it: None when it is null, and Optional[T] in
+/// the signature.
+template <typename T>
+std::optional<std::shared_ptr<T>> OrNone(std::shared_ptr<T> pointer)
+{
+    if (pointer)
+        return pointer;
+    return std::nullopt;
+}
+
+/// The name that pybind11's signatures give `T`: the name of the class it is bound as, or its
+/// caster's ("str", "int", "Iterable").
+template <typename T>
+std::string PythonName()
+{
+    if constexpr (std::is_base_of_v<py::detail::type_caster_generic, py::detail::make_caster<T>>)
+        return py::type::of<T>().attr("__name__").template cast<std::string>();
+    else
+        return py::detail::make_caster<T>::name.text;
+}
+
+/// Lets Python pass each `From` wherever the class of `cls` is expected, and ends the class's
+/// docstring with the sentence that says so ("Converts implicitly from Stream, str."), where
+/// help() shows it and the type stubs read it (generate_stubs.py).
+template <typename... From, typename Class>
+void ConvertsImplicitlyFrom(Class& cls)
+{
+    (py::implicitly_convertible<From, typename Class::type>(), ...);
+    std::string sentence = "Converts implicitly from ";
+    ((sentence += PythonName<From>() + ", "), ...);
+    sentence.replace(sentence.size() - 2, 2, ".");
+    const py::object doc = cls.attr("__doc__");
+    cls.attr("__doc__") = doc.is_none() ? sentence : doc.template cast<std::string>() + "\n\n" + sentence;
+}
+
 /// A sorted vector of the model as a Python sequence: len, iteration, indexing and deletion by
 /// position, `in`, and the model's own insert rule (an element equal to the one standing at its
 /// place is refused with RuntimeError). Indexing returns the element shared (pointers) or copied
@@ -199,9 +236,9 @@ void DefineSortedVector(Class& cls, const char* name)
             py::arg("value").none(false))
         .def(
             "find",
-            [](const Vector& self, const Value& value) -> py::object {
+            [](const Vector& self, const Value& value) -> std::optional<Value> {
                 const auto found = self.ConstFind(E::In(value));
-                return found == self.end() ? py::none() : py::cast(E::Out(*found));
+                return found == self.end() ? std::nullopt : std::optional<Value>(E::Out(*found));
             },
             py::arg("value").none(false), "The stored element equal to `value`, or None.")
         .def(
@@ -231,7 +268,7 @@ void DefineSortedVector(Class& cls, const char* name)
         .def(
             "__eq__", [](const Vector& self, const Vector& other) { return self == other; }, py::is_operator())
         .def("__repr__", [name](const Vector& self) { return ContainerRepr(name, self); });
-    py::implicitly_convertible<py::iterable, Vector>();
+    ConvertsImplicitlyFrom<py::iterable>(cls);
 }
 
 /// A plain std::vector of the model (insertion order, duplicates allowed) as a Python sequence.
@@ -285,7 +322,7 @@ void DefinePlainVector(Class& cls, const char* name, bool acceptsNone)
              })
         .def("clear", [](Vector& self) { self.clear(); })
         .def("__repr__", [name](const Vector& self) { return ContainerRepr(name, self); });
-    py::implicitly_convertible<py::iterable, Vector>();
+    ConvertsImplicitlyFrom<py::iterable>(cls);
 }
 
 /// Hands an object owned by a Python wrapper over to C++ and back, for the classes that the model
@@ -474,7 +511,7 @@ void DefineSharedReference(Class& cls, const char* name)
             "id", [](const Reference& self) { return self.Id(); },
             [](Reference& self, const BusinessEntityModel::BaseTypes::Identifier& id) { self.Id(id); })
         .def_property(
-            "pointer", [](Reference& self) { return self.Pointer(); },
+            "pointer", [](Reference& self) { return OrNone(self.Pointer()); },
             [](Reference& self, const std::shared_ptr<T>& entity) { self.Pointer(entity); },
             "The referenced entity, shared, or None when only the id is known.")
         .def_property_readonly("value",
@@ -489,8 +526,7 @@ void DefineSharedReference(Class& cls, const char* name)
         .def("__repr__", [name](const Reference& self) {
             return "<" + std::string(name) + " " + Quoted(self.Id().Value()) + (self.Pointer() ? " loaded>" : ">");
         });
-    py::implicitly_convertible<T, Reference>();
-    py::implicitly_convertible<BusinessEntityModel::BaseTypes::Identifier, Reference>();
+    ConvertsImplicitlyFrom<T, BusinessEntityModel::BaseTypes::Identifier>(cls);
 }
 
 /// The objectId property of every persistent entity.
@@ -535,8 +571,8 @@ void BindEssences(py::module_& module);
 void BindLocations(py::module_& module);
 void BindStreams(py::module_& module);
 void BindTracks(py::module_& module);
-void BindMediaAsset(py::module_& module);
 void BindOperatorMetadata(py::module_& module);
+void BindMediaAsset(py::module_& module);
 void BindGroups(py::module_& module);
 void BindFirstDifference(py::module_& module);
 

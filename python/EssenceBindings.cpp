@@ -85,7 +85,7 @@ void BindEssences(py::module_& module)
         .def("__str__", &TimeCodeString::Value)
         .def("__repr__", [](const TimeCodeString& self) { return "TimeCodeString(" + Quoted(self.Value()) + ")"; });
     DefineEquality(timeCodeString);
-    py::implicitly_convertible<std::string, TimeCodeString>();
+    ConvertsImplicitlyFrom<std::string>(timeCodeString);
 
     py::class_<TimeCodeJump, std::shared_ptr<TimeCodeJump>> jump(
         module, "TimeCodeJump",

@@ -76,7 +76,7 @@ void BindGroups(py::module_& module)
             "find",
             [](const MediaAssetGroup& self, const MediaAssetGroupId& assetId) {
                 const auto found = self.Find(assetId);
-                return found == self.Items().end() ? nullptr : *found;
+                return OrNone(found == self.Items().end() ? nullptr : *found);
             },
             py::arg("asset_id"), "The first item that refers to the asset, or None.")
         .def("has_asset", &MediaAssetGroup::HasAsset, py::arg("asset_id"))

@@ -2,6 +2,9 @@
 
 #include "Bindings.h"
 
+#include <optional>
+#include <tuple>
+
 namespace Orvik::Python {
 namespace {
 
@@ -36,9 +39,9 @@ void BindIdentifiers(py::module_& module)
         .def_static("from_uri", &ZanServerId::FromUri, py::arg("text"))
         .def_static(
             "try_parse",
-            [](const std::string& text) -> py::object {
+            [](const std::string& text) -> std::optional<ZanServerId> {
                 ZanServerId parsed;
-                return ZanServerId::TryParse(text, parsed) ? py::cast(parsed) : py::none();
+                return ZanServerId::TryParse(text, parsed) ? std::optional(parsed) : std::nullopt;
             },
             py::arg("text"), "The server named by `text`, or None when it is not a valid serial number.")
         .def("__str__", &ZanServerId::ToString)
@@ -47,7 +50,7 @@ void BindIdentifiers(py::module_& module)
         .def("__copy__", [](const ZanServerId& self) { return self; })
         .def("__deepcopy__", [](const ZanServerId& self, const py::dict&) { return self; });
     DefineEquality(serverId);
-    py::implicitly_convertible<int, ZanServerId>();
+    ConvertsImplicitlyFrom<int>(serverId);
 
     py::class_<PelkId> pelkId(module, "PelkId",
                               "The operators' code of a recorded clip: page, bank and row digits, a camera letter "
@@ -98,7 +101,7 @@ void BindIdentifiers(py::module_& module)
                 PelkId id;
                 int serialNumber = 0;
                 const bool parsed = PelkId::TryParse(text, id, serialNumber);
-                return py::make_tuple(parsed, id, serialNumber);
+                return std::make_tuple(parsed, id, serialNumber);
             },
             py::arg("text"),
             "The tolerant parser: (parsed, id, serial number read). It needs a camera and never raises; on "
@@ -131,9 +134,9 @@ void BindIdentifiers(py::module_& module)
         .def_static("parse", &Color::Parse, py::arg("text"))
         .def_static(
             "try_parse",
-            [](const std::string& text) -> py::object {
+            [](const std::string& text) -> std::optional<uint32_t> {
                 uint32_t color = 0;
-                return Color::TryParse(text, color) ? py::cast(color) : py::none();
+                return Color::TryParse(text, color) ? std::optional(color) : std::nullopt;
             },
             py::arg("text"), "The colour written in `text`, or None.");
 }

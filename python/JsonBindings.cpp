@@ -54,6 +54,8 @@ void BindJson(py::module_& module)
 
     // Released: the class lives as long as the interpreter, past the module's static destructors.
     static const py::handle jsonError = py::exception<Json::JsonError>(module, "JsonError", PyExc_ValueError).release();
+    // Set on every instance that the module raises; one raised by Python code reads "".
+    jsonError.attr("path") = "";
     py::register_exception_translator([](std::exception_ptr pending) {
         try {
             if (pending)

@@ -30,6 +30,9 @@ void BindMediaAsset(py::module_& module)
                                             "are allowed (None is never equal, and makes clone() raise ValueError).");
     DefinePlainVector<AnnotationArray>(annotations, "AnnotationArray", true);
 
+    // Registered before the asset, so that the signatures of ancestor and parent name it.
+    py::class_<MediaAssetReference> assetReference(module, "MediaAssetReference");
+
     py::class_<MediaAsset, std::shared_ptr<MediaAsset>> asset(
         module, "MediaAsset",
         "One media item: name, lineage, time bounds, tracks and layouts, media resources, annotations and "
@@ -74,7 +77,6 @@ void BindMediaAsset(py::module_& module)
     DefineObjectId(asset);
     DefineCopies(asset, [](const MediaAsset& self) { return std::make_shared<MediaAsset>(self); });
 
-    py::class_<MediaAssetReference> assetReference(module, "MediaAssetReference");
     DefineSharedReference<MediaAsset>(assetReference, "MediaAssetReference");
 }
 

@@ -72,6 +72,8 @@ PYBIND11_MODULE(orvik_media_assets, module)
     py::module_ timePoints = module.def_submodule("time_points",
                                                   "Time values: points, durations, boundaries, "
                                                   "bounds, rates and timecodes, and their texts.");
+    // Importable by its name too, as its type stub is: import orvik_media_assets.time_points.
+    py::module_::import("sys").attr("modules")["orvik_media_assets.time_points"] = timePoints;
     BindBaseTypes(module);
     BindTimeValues(module, timePoints);
     BindTimeTexts(timePoints);
@@ -81,8 +83,8 @@ PYBIND11_MODULE(orvik_media_assets, module)
     BindLocations(module);
     BindStreams(module);
     BindTracks(module);
-    BindMediaAsset(module);
     BindOperatorMetadata(module);
+    BindMediaAsset(module);
     BindGroups(module);
     BindFirstDifference(module);
 #ifdef ORVIK_PYTHON_JSON

@@ -30,6 +30,9 @@ void BindProbe(py::module_& module)
 
     // Released: the class lives as long as the interpreter, past the module's static destructors.
     static const py::handle probeError = py::exception<Probe::ProbeError>(module, "ProbeError", PyExc_ValueError).release();
+    // Set on every instance that the module raises; one raised by Python code reads "".
+    probeError.attr("source") = "";
+    probeError.attr("reason") = "";
     py::register_exception_translator([](std::exception_ptr pending) {
         try {
             if (pending)
