@@ -63,6 +63,11 @@ void BindJson(py::module_& module);
 void BindProbe(py::module_& module);
 #endif
 
+#ifdef ORVIK_PYTHON_TOOL
+// What the orvik-asset tool shows, bound when the tool is built (ToolBindings.cpp).
+void BindTool(py::module_& module);
+#endif
+
 }  // namespace Orvik::Python
 
 PYBIND11_MODULE(orvik_media_assets, module)
@@ -92,5 +97,8 @@ PYBIND11_MODULE(orvik_media_assets, module)
 #endif
 #ifdef ORVIK_PYTHON_PROBE
     BindProbe(module);
+#endif
+#ifdef ORVIK_PYTHON_TOOL
+    BindTool(module);
 #endif
 }
