@@ -12,7 +12,7 @@ import orvik_media_assets as orvik
 SECOND = 1_000_000_000
 
 
-def make_high_resolution_stream():
+def make_high_resolution_stream() -> orvik.Stream:
     stream = orvik.Stream("stream-hires")
     stream.format = orvik.WrapperFormat.MXFOP1a
 
@@ -29,7 +29,7 @@ def make_high_resolution_stream():
     return stream
 
 
-def make_asset():
+def make_asset() -> orvik.MediaAsset:
     asset = orvik.MediaAsset("asset-goal-0815")
     asset.name = "Goal, 81st minute"
     asset.asset_type = orvik.AssetType.media
@@ -40,7 +40,7 @@ def make_asset():
 
     track = orvik.Track("track-video", "Program")
     channel = orvik.TrackChannelToRemove()
-    channel.stream = resource.streams[0].pointer
+    channel.stream = resource.streams[0].value
     channel.essence_nr = 0
     track.channels.append(channel)
     asset.tracks.insert(track)
@@ -52,7 +52,7 @@ def make_asset():
     return asset
 
 
-def main():
+def main() -> None:
     asset = make_asset()
     print(f"Built asset {asset.id} ({asset.asset_type}) with {len(asset.tracks)} track "
           f"and {len(asset.media_resources)} resource")
@@ -78,6 +78,7 @@ def main():
 
     stream = handed_over.media_resources[0].value.streams[0].value
     video = stream.essences[0]
+    assert isinstance(video, orvik.VideoEssence)  # an essence comes back as its own class
     print(f"Video codec: {video.video_codec}, wrapped as {stream.format}")
     print(f"Stored at video-server location {stream.locations[0].uri}")
 
