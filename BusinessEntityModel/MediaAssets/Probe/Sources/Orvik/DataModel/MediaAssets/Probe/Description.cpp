@@ -215,16 +215,28 @@ struct TimeCodeSource {
     const char* type = nullptr;
 };
 
-TimeCodeSource FindTimeCode(const AVFormatContext& context)
+bool IsVideo(const AVStream& stream) { return stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO; }
+
+bool IsTimeCodeTrack(const AVStream& stream) { return stream.codecpar->codec_tag == MKTAG('t', 'm', 'c', 'd'); }
+
+/// The first stream of the file that `matches`, or null.
+template <typename Predicate>
+const AVStream* FirstStream(const AVFormatContext& context, Predicate&& matches)
 {
     for (unsigned i = 0; i < context.nb_streams; ++i)
-        if (context.streams[i]->codecpar->codec_tag == MKTAG('t', 'm', 'c', 'd'))
-            if (const char* text = Tag(context.streams[i]->metadata, "timecode"))
-                return {text, "timecode track"};
-    for (unsigned i = 0; i < context.nb_streams; ++i)
-        if (context.streams[i]->codecpar->codec_type == AVMEDIA_TYPE_VIDEO)
-            if (const char* text = Tag(context.streams[i]->metadata, "timecode"))
-                return {text, "video stream"};
+        if (matches(*context.streams[i]))
+            return context.streams[i];
+    return nullptr;
+}
+
+const char* TimeCodeTag(const AVStream& stream) { return Tag(stream.metadata, "timecode"); }
+
+TimeCodeSource FindTimeCode(const AVFormatContext& context)
+{
+    if (const AVStream* track = FirstStream(context, [](const AVStream& s) { return IsTimeCodeTrack(s) && TimeCodeTag(s); }))
+        return {TimeCodeTag(*track), "timecode track"};
+    if (const AVStream* video = FirstStream(context, [](const AVStream& s) { return IsVideo(s) && TimeCodeTag(s); }))
+        return {TimeCodeTag(*video), "video stream"};
     if (const char* text = Tag(context.metadata, "timecode"))
         return {text, "file"};
     return {};
@@ -234,13 +246,10 @@ TimeCodeSource FindTimeCode(const AVFormatContext& context)
 /// track's.
 AVRational TimeCodeRate(const AVFormatContext& context)
 {
-    for (unsigned i = 0; i < context.nb_streams; ++i)
-        if (context.streams[i]->codecpar->codec_type == AVMEDIA_TYPE_VIDEO)
-            return FrameRate(*context.streams[i]);
-    for (unsigned i = 0; i < context.nb_streams; ++i)
-        if (context.streams[i]->codecpar->codec_tag == MKTAG('t', 'm', 'c', 'd'))
-            return FrameRate(*context.streams[i]);
-    return {0, 0};
+    const AVStream* counting = FirstStream(context, IsVideo);
+    if (counting == nullptr)
+        counting = FirstStream(context, IsTimeCodeTrack);
+    return counting != nullptr ? FrameRate(*counting) : AVRational{0, 0};
 }
 
 /// The file's start timecode as a table with one jump at time 0, or null when there is none.
@@ -281,12 +290,12 @@ TimeBoundary At(int64_t nanoseconds) { return TimeBoundary(MediaAssets::TimePoin
 int64_t LastFrame(const AVFormatContext& context, int64_t duration)
 {
     AVRational rate{0, 0};
-    for (unsigned i = 0; i < context.nb_streams && rate.num <= 0; ++i)
-        if (context.streams[i]->codecpar->codec_type == AVMEDIA_TYPE_VIDEO)
-            rate = FrameRate(*context.streams[i]);
-    for (unsigned i = 0; i < context.nb_streams && rate.num <= 0; ++i)
-        if (context.streams[i]->codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
-            rate = {context.streams[i]->codecpar->sample_rate, 1};
+    if (const AVStream* video = FirstStream(context, [](const AVStream& s) { return IsVideo(s) && FrameRate(s).num > 0; }))
+        rate = FrameRate(*video);
+    else if (const AVStream* audio = FirstStream(context, [](const AVStream& s) {
+                 return s.codecpar->codec_type == AVMEDIA_TYPE_AUDIO && s.codecpar->sample_rate > 0;
+             }))
+        rate = {audio->codecpar->sample_rate, 1};
     if (rate.num <= 0 || rate.den <= 0)
         return -1;
     const int64_t last = duration - av_rescale(kNanosecondsPerSecond, rate.den, rate.num);
@@ -356,7 +365,7 @@ ProbeResult Describe(OpenedMedia& media, const std::string& name, std::unique_pt
     for (unsigned i = 0; i < context.nb_streams; ++i) {
         const AVStream& source = *context.streams[i];
         std::unique_ptr<Essence> essence;
-        if (source.codecpar->codec_type == AVMEDIA_TYPE_VIDEO)
+        if (IsVideo(source))
             essence = Video(media, source, result, warnings);
         else if (source.codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
             essence = Audio(source, warnings);
