@@ -51,6 +51,7 @@
 #include <Orvik/DataModel/MediaAssets/TrackLayout.h>
 #include <Orvik/DataModel/MediaAssets/TrackLayoutItem.h>
 #include <Orvik/DataModel/MediaAssets/UserTimecodeType.h>
+#include <Orvik/DataModel/MediaAssets/Utils/CameraText.h>
 #include <Orvik/DataModel/MediaAssets/Utils/PelkId.h>
 #include <Orvik/DataModel/MediaAssets/Utils/ZanServerId.h>
 #include <Orvik/DataModel/MediaAssets/VideoCodingFormat.h>

@@ -1,9 +1,11 @@
 #pragma once
 
-// The JSON form of the model: ToJson, FromJson, SchemaName, the metadata profile codecs and the
-// library's one exception type.
+// The JSON form of the model: ToJson, FromJson, FromAnyJson, SchemaName, the metadata profile
+// codecs, JSON pointers and the library's one exception type.
 
+#include <Orvik/DataModel/MediaAssets/Json/AnyDocument.h>
 #include <Orvik/DataModel/MediaAssets/Json/FromJson.h>
+#include <Orvik/DataModel/MediaAssets/Json/JsonPointer.h>
 #include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
 #include <Orvik/DataModel/MediaAssets/Json/Layout.h>
 #include <Orvik/DataModel/MediaAssets/Json/MetadataProfileCodec.h>

@@ -12,16 +12,20 @@ namespace Orvik::DataModel::MediaAssets::Json {
 /// layout item showing a track that is not the asset's).
 ///
 /// Path() is the JSON pointer of the offending value ("/mediaResources/2/pointer/streams/0"; the
-/// empty text is the whole document). The message is that path ("(root)" for the whole
-/// document), ": " and what was expected, for instance "/name: expected a string, found 17".
+/// empty text is the whole document), Expected() what was expected there ("expected a string,
+/// found 17"). The message is that path ("(root)" for the whole document), ": " and what was
+/// expected, for instance "/name: expected a string, found 17"; a caller that puts its own words
+/// in front (a file name, say) takes the two parts rather than cutting the message apart.
 class JsonError : public std::runtime_error {
 public:
     JsonError(const std::string& path, const std::string& expected);
 
     const std::string& Path() const { return path; }
+    const std::string& Expected() const { return expected; }
 
 private:
     std::string path;
+    std::string expected;
 };
 
 }  // namespace Orvik::DataModel::MediaAssets::Json

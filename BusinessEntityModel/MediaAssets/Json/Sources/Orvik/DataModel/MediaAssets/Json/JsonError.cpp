@@ -3,7 +3,7 @@
 namespace Orvik::DataModel::MediaAssets::Json {
 
 JsonError::JsonError(const std::string& path, const std::string& expected)
-    : std::runtime_error((path.empty() ? std::string("(root)") : path) + ": " + expected), path(path)
+    : std::runtime_error((path.empty() ? std::string("(root)") : path) + ": " + expected), path(path), expected(expected)
 {}
 
 }  // namespace Orvik::DataModel::MediaAssets::Json
