@@ -1,9 +1,11 @@
-// The operator's clip identifiers and server serial numbers, and the conversions that callers'
-// code relies on: it must compile, and the calls that could mean two things must not.
+// The operator's clip identifiers, their camera letters as text and server serial numbers, and the
+// conversions that callers' code relies on: it must compile, and the calls that could mean two
+// things must not.
 
 #include <Orvik/DataModel/MediaAssets/MediaAsset.h>
 #include <Orvik/DataModel/MediaAssets/MediaResource.h>
 #include <Orvik/DataModel/MediaAssets/TimeCodeString.h>
+#include <Orvik/DataModel/MediaAssets/Utils/CameraText.h>
 #include <Orvik/DataModel/MediaAssets/Utils/PelkId.h>
 #include <Orvik/DataModel/MediaAssets/Utils/ZanServerId.h>
 #include <Orvik/DataModel/MediaAssets/ZanLocation.h>
@@ -68,6 +70,20 @@ constexpr Verdict kVerdicts[] = {
     {"999L", "999L/0", "999L/0", 0},
 };
 
+// A camera and its text, both ways: every byte is one code point, up to U+00FF.
+struct CameraCase {
+    char camera;
+    const char* text;
+};
+
+constexpr CameraCase kCameras[] = {
+    {'\0', ""},            // no camera
+    {'A', "A"},            // a valid one
+    {'\x7F', "\x7F"},      // the last one-byte code point
+    {'\xE9', "\xC3\xA9"},  // U+00E9, two bytes
+    {'\xFF', "\xC3\xBF"},  // U+00FF, the last
+};
+
 std::string Strictly(const std::string& text)
 {
     try {
@@ -120,6 +136,25 @@ TEST(PelkIdPosition, SplitsIntoPageBankAndRow)
     EXPECT_EQ((std::vector<int>{id.Page(), id.Bank(), id.Row(), id.Position(), id.Channel(), id.Index()}),
               (std::vector<int>{4, 5, 6, 456, 3, 456 * 12 + 2}));
     EXPECT_NE(id, PelkId(456, 'D'));
+}
+
+TEST(CameraText, EveryByteIsOneCodePointUpToU00FFAndBack)
+{
+    for (const auto& row : kCameras) {
+        SCOPED_TRACE(static_cast<int>(static_cast<unsigned char>(row.camera)));
+        EXPECT_EQ(CameraText(row.camera), row.text);
+        char camera = 'X';
+        EXPECT_TRUE(CameraFromText(row.text, camera));
+        EXPECT_EQ(camera, row.camera);
+    }
+    // Two characters, a code point past U+00FF, a lead byte alone, a byte that is not UTF-8.
+    for (const char* text : {"AB", "\xC4\x80", "\xC3", "\xE9"}) {
+        SCOPED_TRACE(text);
+        char camera = 'X';
+        EXPECT_FALSE(CameraFromText(text, camera));
+        EXPECT_EQ(camera, 'X') << "left as it was";
+    }
+    EXPECT_EQ(ValidCamerasText(), "'A' to 'L'");
 }
 
 TEST(ZanServerIdText, AcceptsOnlyValidSerialNumbersInDecimal)
