@@ -70,7 +70,9 @@ int main(int argc, char** argv)
     CLI::App* validate =
         app.add_subcommand("validate", "Check documents: their JSON form, then the model's rules; one line per problem");
     validate->add_option("FILE", files, kFileHelp)->required();
-    validate->footer("Each problem is written as FILE: JSON-POINTER: MESSAGE; nothing is written for a valid file.");
+    validate->footer("Each problem is written as FILE: JSON-POINTER: MESSAGE; nothing is written for a valid file.\n"
+                     "The JSON pointer (/tracks/3/id) names the value in the file as written, where an editor or jq\n"
+                     "finds it; what several places share (a stream, a timecode table) is checked where it is written.");
 
     std::vector<std::string> media;
     ProbeOptions probeOptions;
@@ -89,7 +91,10 @@ int main(int argc, char** argv)
     CLI::App* diff = app.add_subcommand("diff", "Print the first difference between two documents of one kind");
     diff->add_option("A", left, kFileHelp)->required();
     diff->add_option("B", right, kFileHelp)->required();
-    diff->footer("The difference is written as the field's path, then < and its value in A, > and its value in B.");
+    diff->footer("The difference is written as the field's path, then < and its value in A, > and its value in B.\n"
+                 "The path is in the model's field names (tracks[3].name), not a JSON pointer: the objects are\n"
+                 "compared, not their files, so a stream written once and referred to elsewhere is compared at\n"
+                 "every place it is used.");
 
     try {
         app.parse(argc, argv);
