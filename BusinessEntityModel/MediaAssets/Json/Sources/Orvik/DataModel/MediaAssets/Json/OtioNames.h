@@ -1,0 +1,31 @@
+#pragma once
+
+// The names of the OpenTimelineIO form, shared by its writer and its reader.
+
+namespace Orvik::DataModel::MediaAssets::Json::otio {
+
+inline constexpr char kTimeline[] = "Timeline.1";
+/// What OpenTimelineIO's development version writes; read as well, for an editor that saved with it.
+inline constexpr char kNextTimeline[] = "Timeline.2";
+inline constexpr char kStack[] = "Stack.1";
+inline constexpr char kTrack[] = "Track.1";
+inline constexpr char kClip[] = "Clip.2";
+inline constexpr char kExternalReference[] = "ExternalReference.1";
+inline constexpr char kMissingReference[] = "MissingReference.1";
+inline constexpr char kMarker[] = "Marker.2";
+inline constexpr char kTimeRange[] = "TimeRange.1";
+inline constexpr char kRationalTime[] = "RationalTime.1";
+
+inline constexpr char kVideo[] = "Video";
+inline constexpr char kAudio[] = "Audio";
+inline constexpr char kDefaultMedia[] = "DEFAULT_MEDIA";
+inline constexpr char kMarkerColor[] = "RED";
+
+/// The members of our metadata ("orvik"): the asset's document in the timeline's, the track id
+/// in a clip's, the annotation's index in a marker's.
+inline constexpr char kAssetKey[] = "asset";
+inline constexpr char kTrackKey[] = "track";
+inline constexpr char kAnnotationKey[] = "annotation";
+inline constexpr char kAssetPointer[] = "/metadata/orvik/asset";
+
+}  // namespace Orvik::DataModel::MediaAssets::Json::otio

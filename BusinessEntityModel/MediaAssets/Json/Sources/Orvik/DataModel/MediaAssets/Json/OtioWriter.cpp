@@ -1,0 +1,255 @@
+// ToOtio: an asset as an OpenTimelineIO timeline, in the schema versions of OpenTimelineIO's
+// released serialisation (Timeline.1, Stack.1, Track.1, Clip.2, ExternalReference.1,
+// MissingReference.1, Marker.2, TimeRange.1, RationalTime.1), members in the order it writes them.
+
+#include "OtioClips.h"
+#include "OtioNames.h"
+
+#include <Orvik/DataModel/MediaAssets/FileLocation.h>
+#include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
+#include <Orvik/DataModel/MediaAssets/Json/Otio.h>
+#include <Orvik/DataModel/MediaAssets/Json/ToJson.h>
+
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+namespace Orvik::DataModel::MediaAssets::Json {
+
+namespace {
+
+using detail::OtioClip;
+using detail::OtioRange;
+
+template <typename W>
+class OtioWriter {
+public:
+    explicit OtioWriter(W& w) : w(w) {}
+
+    void Timeline(const MediaAsset& asset, const std::string& assetDocument)
+    {
+        const std::vector<OtioClip> clips = detail::OtioClips(asset);
+        const size_t markerClip = detail::MarkerClip(clips);
+        w.StartObject();
+        Schema(otio::kTimeline);
+        Key("metadata");
+        w.StartObject();
+        Key(kOtioMetadataKey);
+        w.StartObject();
+        Key(otio::kAssetKey);
+        Embed(assetDocument);
+        w.EndObject();
+        w.EndObject();
+        String("name", asset.Name());
+        Key("global_start_time");
+        w.Null();
+        Key("tracks");
+        ItemStart(otio::kStack, "tracks");
+        Key("children");
+        w.StartArray();
+        for (size_t index = 0; index < clips.size(); ++index)
+            Track(asset, clips[index], index == markerClip);
+        w.EndArray();
+        w.EndObject();
+        w.EndObject();
+    }
+
+private:
+    void Key(const char* key) { w.Key(key); }
+    void Text(const std::string& text) { w.String(text.data(), static_cast<rapidjson::SizeType>(text.size())); }
+    void String(const char* key, const std::string& text)
+    {
+        Key(key);
+        Text(text);
+    }
+    void Schema(const char* schema) { String("OTIO_SCHEMA", schema); }
+    void EmptyObject(const char* key)
+    {
+        Key(key);
+        w.StartObject();
+        w.EndObject();
+    }
+    void EmptyArray(const char* key)
+    {
+        Key(key);
+        w.StartArray();
+        w.EndArray();
+    }
+
+    /// The asset's document as a JSON object, byte for byte as ToJson wrote it, so that the texts
+    /// of metadata profiles kept as read come back unchanged.
+    void Embed(const std::string& document) { w.RawValue(document.data(), document.size(), rapidjson::kObjectType); }
+
+    /// The members that every Item starts with, up to its children or media references.
+    void ItemStart(const char* schema, const std::string& name)
+    {
+        w.StartObject();
+        Schema(schema);
+        EmptyObject("metadata");
+        String("name", name);
+        Key("source_range");
+        w.Null();
+        EmptyArray("effects");
+        EmptyArray("markers");
+        Key("enabled");
+        w.Bool(true);
+    }
+
+    void Time(const char* key, double value, double rate)
+    {
+        Key(key);
+        w.StartObject();
+        Schema(otio::kRationalTime);
+        Key("rate");
+        w.Double(rate);
+        Key("value");
+        w.Double(value);
+        w.EndObject();
+    }
+
+    void Range(const char* key, const std::optional<OtioRange>& range)
+    {
+        Key(key);
+        if (!range) {
+            w.Null();
+            return;
+        }
+        w.StartObject();
+        Schema(otio::kTimeRange);
+        Time("duration", range->duration, range->rate);
+        Time("start_time", range->start, range->rate);
+        w.EndObject();
+    }
+
+    /// Our own metadata of a clip or marker: {"orvik": {key: ...}}, the value written by `value`.
+    template <typename Value>
+    void OwnMetadata(const char* key, Value&& value)
+    {
+        Key("metadata");
+        w.StartObject();
+        Key(kOtioMetadataKey);
+        w.StartObject();
+        Key(key);
+        value();
+        w.EndObject();
+        w.EndObject();
+    }
+
+    void Track(const MediaAsset& asset, const OtioClip& clip, bool markers)
+    {
+        ItemStart(otio::kTrack, clip.track->Name());
+        Key("children");
+        w.StartArray();
+        Clip(asset, clip, markers);
+        w.EndArray();
+        String("kind", clip.video ? otio::kVideo : otio::kAudio);
+        w.EndObject();
+    }
+
+    void Clip(const MediaAsset& asset, const OtioClip& clip, bool markers)
+    {
+        w.StartObject();
+        Schema(otio::kClip);
+        OwnMetadata(otio::kTrackKey, [&] { Text(clip.track->Id().Value()); });
+        String("name", asset.Name());
+        Range("source_range", detail::Range(clip.clock, asset.InBoundary(), asset.OutBoundary()));
+        EmptyArray("effects");
+        Key("markers");
+        w.StartArray();
+        if (markers)
+            for (size_t index = 0; index < asset.Annotations().size(); ++index)
+                Marker(*asset.Annotations()[index], index, clip);
+        w.EndArray();
+        Key("enabled");
+        w.Bool(true);
+        Key("media_references");
+        w.StartObject();
+        Key(otio::kDefaultMedia);
+        Reference(clip);
+        w.EndObject();
+        String("active_media_reference_key", otio::kDefaultMedia);
+        w.EndObject();
+    }
+
+    void Marker(const Annotation& annotation, size_t index, const OtioClip& clip)
+    {
+        w.StartObject();
+        Schema(otio::kMarker);
+        OwnMetadata(otio::kAnnotationKey, [&] { w.Uint64(index); });
+        String("name", annotation.Data());
+        String("color", otio::kMarkerColor);
+        Range("marked_range", detail::MarkedRange(clip.clock, annotation.TimeBounds()));
+        String("comment", "");
+        w.EndObject();
+    }
+
+    /// An ExternalReference to the stream's first file location, or a MissingReference named
+    /// after the stream's first location (a video-server or storage URI), or after the stream id
+    /// when the stream has no location or is not loaded.
+    void Reference(const OtioClip& clip)
+    {
+        const Location* place = nullptr;
+        const FileLocation* file = nullptr;
+        if (clip.stream != nullptr)
+            for (const auto& location : clip.stream->Locations()) {
+                if (place == nullptr)
+                    place = location.get();
+                if (location->GetType() == Location::FileLocation) {
+                    file = static_cast<const FileLocation*>(location.get());
+                    break;
+                }
+            }
+        w.StartObject();
+        Schema(file != nullptr ? otio::kExternalReference : otio::kMissingReference);
+        EmptyObject("metadata");
+        String("name", file != nullptr ? file->Name() : place != nullptr ? place->Uri().Value() : clip.streamId);
+        Range("available_range",
+              clip.stream == nullptr ? std::nullopt
+                                     : detail::Range(clip.clock, clip.stream->Timebounds().InBoundary(),
+                                                     clip.stream->Timebounds().OutBoundary()));
+        Key("available_image_bounds");
+        w.Null();
+        if (file != nullptr)
+            String("target_url", file->Uri().Value());
+        w.EndObject();
+    }
+
+    W& w;
+};
+
+/// The asset's own document, with the path of a failure inside the .otio document.
+std::string AssetDocument(const MediaAsset& asset, Layout layout)
+{
+    try {
+        return ToJson(asset, layout);
+    } catch (const JsonError& error) {
+        throw JsonError(otio::kAssetPointer + error.Path(), error.Expected());
+    }
+}
+
+}  // namespace
+
+std::string ToOtio(const MediaAsset& asset, Layout layout)
+{
+    const std::string document = AssetDocument(asset, layout);
+    rapidjson::StringBuffer buffer;
+    if (layout == Layout::Compact) {
+        rapidjson::Writer<rapidjson::StringBuffer> w(buffer);
+        OtioWriter(w).Timeline(asset, document);
+    } else {
+        rapidjson::PrettyWriter<rapidjson::StringBuffer> w(buffer);
+        OtioWriter(w).Timeline(asset, document);
+    }
+    std::string text(buffer.GetString(), buffer.GetSize());
+    if (layout == Layout::Indented)
+        text += '\n';
+    return text;
+}
+
+void ToOtio(std::ostream& out, const MediaAsset& asset, Layout layout)
+{
+    const std::string text = ToOtio(asset, layout);
+    out.write(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
+}  // namespace Orvik::DataModel::MediaAssets::Json
