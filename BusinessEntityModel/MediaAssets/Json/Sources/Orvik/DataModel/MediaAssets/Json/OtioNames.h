@@ -2,6 +2,8 @@
 
 // The names of the OpenTimelineIO form, shared by its writer and its reader.
 
+#include <cstddef>
+
 namespace Orvik::DataModel::MediaAssets::Json::otio {
 
 inline constexpr char kTimeline[] = "Timeline.1";
@@ -27,5 +29,9 @@ inline constexpr char kAssetKey[] = "asset";
 inline constexpr char kTrackKey[] = "track";
 inline constexpr char kAnnotationKey[] = "annotation";
 inline constexpr char kAssetPointer[] = "/metadata/orvik/asset";
+
+/// The indented asset document sits three levels deep in an indented timeline: each of its lines
+/// after the first is moved right by this many blanks, and moved back on reading.
+inline constexpr size_t kEmbeddedIndent = 12;
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::otio

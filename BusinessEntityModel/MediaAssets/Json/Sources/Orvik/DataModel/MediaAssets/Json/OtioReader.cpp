@@ -246,6 +246,22 @@ private:
     std::optional<Edit> edit;
 };
 
+/// The asset's document as ToJson wrote it: an indented one (it starts with a line break) moved
+/// back left by the blanks that ToOtio put after each line break, when every line has them.
+std::string Unindented(std::string_view text)
+{
+    std::string document(text.substr(0, text.find_last_not_of(" \t\n\r") + 1));  // the object ends at its brace
+    if (document.rfind("{\n", 0) != 0)
+        return document;
+    const std::string blanks(otio::kEmbeddedIndent, ' ');
+    for (size_t at = document.find('\n'); at != std::string::npos; at = document.find('\n', at + 1))
+        if (document.compare(at + 1, blanks.size(), blanks) != 0)
+            return document;
+    for (size_t at = document.find('\n'); at != std::string::npos; at = document.find('\n', at + 1))
+        document.erase(at + 1, otio::kEmbeddedIndent);
+    return document;
+}
+
 /// The asset document in our metadata, as its exact text (metadata profiles kept as read compare
 /// their texts), with the path of a failure inside the .otio document.
 MediaAsset EmbeddedAsset(const Place& place, const simdjson::padded_string& document)
@@ -262,7 +278,7 @@ MediaAsset EmbeddedAsset(const Place& place, const simdjson::padded_string& docu
         || object.raw_json().get(text) != simdjson::SUCCESS)
         Fail(place, "the asset's document as an object");
     try {
-        return FromJson<MediaAsset>(text);
+        return FromJson<MediaAsset>(Unindented(text));
     } catch (const JsonError& error) {
         throw JsonError(place.at.Text() + error.Path(), error.Expected());
     }

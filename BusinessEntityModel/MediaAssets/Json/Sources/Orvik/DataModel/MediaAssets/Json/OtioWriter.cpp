@@ -218,10 +218,16 @@ private:
 };
 
 /// The asset's own document, with the path of a failure inside the .otio document.
+/// The asset's own document, its indented form moved right to where it stands in the timeline
+/// (blanks after line breaks only change what lies between the tokens).
 std::string AssetDocument(const MediaAsset& asset, Layout layout)
 {
     try {
-        return ToJson(asset, layout);
+        std::string document = ToJson(asset, layout);
+        if (layout == Layout::Indented)
+            for (size_t at = document.find('\n'); at != std::string::npos; at = document.find('\n', at + 1))
+                document.insert(at + 1, otio::kEmbeddedIndent, ' ');
+        return document;
     } catch (const JsonError& error) {
         throw JsonError(otio::kAssetPointer + error.Path(), error.Expected());
     }
