@@ -1,6 +1,7 @@
 // orvik-asset: looks at, checks and compares media asset documents from the command line.
 
 #include "Commands.h"
+#include "Interchange.h"
 #include "Printable.h"
 
 #include <CLI/CLI.hpp>
@@ -96,6 +97,21 @@ int main(int argc, char** argv)
                  "compared, not their files, so a stream written once and referred to elsewhere is compared at\n"
                  "every place it is used.");
 
+    std::string otio;
+    CLI::App* exportCommand = app.add_subcommand("export", "Write an asset document in a form that editing systems read");
+    exportCommand->add_option("FILE", file, "The JSON document of an asset; - reads standard input")->required();
+    exportCommand->add_option("--otio", otio, "Write an OpenTimelineIO timeline (.otio) to this file; - writes standard output")
+        ->required();
+    exportCommand->footer("The timeline holds one track per asset track, each with one clip trimmed to the asset's in and\n"
+                          "out points, in whole frames; the asset's document rides in its metadata, so import gives it back.");
+
+    std::string imported;
+    CLI::App* importCommand =
+        app.add_subcommand("import", "Write the asset of an OpenTimelineIO timeline (.otio) that export wrote");
+    importCommand->add_option("FILE", imported, "The .otio file; - reads standard input")->required();
+    importCommand->footer("The asset's document is written as indented JSON to standard output, with what an editor\n"
+                          "changed taken from the timeline: its name, the in and out points, the markers as annotations.");
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -118,6 +134,10 @@ int main(int argc, char** argv)
             status = RunValidate(files, streams);
         else if (*diff)
             status = RunDiff(left, right, streams);
+        else if (*exportCommand)
+            status = RunExportOtio(file, otio, streams);
+        else if (*importCommand)
+            status = RunImportOtio(imported, streams);
         else if (*probe) {
             probeOptions.progress = WantsProgress();
             status = RunProbe(media, probeOptions, streams);
