@@ -8,50 +8,7 @@
 
 #include <pybind11/pybind11.h>
 
-#include <string>
-
 namespace Orvik::Python {
-
-bool LoadText(py::handle source, std::string& text)
-{
-    if (PyUnicode_Check(source.ptr())) {
-        const py::object bytes =
-            py::reinterpret_steal<py::object>(PyUnicode_AsEncodedString(source.ptr(), "utf-8", "surrogateescape"));
-        if (!bytes) {
-            PyErr_Clear();
-            return false;
-        }
-        text.assign(PyBytes_AsString(bytes.ptr()), static_cast<std::size_t>(PyBytes_Size(bytes.ptr())));
-        return true;
-    }
-    if (PyBytes_Check(source.ptr())) {
-        text.assign(PyBytes_AsString(source.ptr()), static_cast<std::size_t>(PyBytes_Size(source.ptr())));
-        return true;
-    }
-    return false;
-}
-
-py::handle TextToPython(const std::string& text)
-{
-    PyObject* result = PyUnicode_DecodeUTF8(text.data(), static_cast<py::ssize_t>(text.size()), "surrogateescape");
-    if (result == nullptr)
-        throw py::error_already_set();
-    return result;
-}
-
-std::string Repr(const py::handle& value) { return py::repr(value).cast<std::string>(); }
-
-std::string Quoted(const std::string& text) { return Repr(py::reinterpret_steal<py::object>(TextToPython(text))); }
-
-std::size_t FromEnd(py::ssize_t index, std::size_t size)
-{
-    if (index >= 0)
-        return static_cast<std::size_t>(index);
-    const py::ssize_t position = index + static_cast<py::ssize_t>(size);
-    if (position < 0)
-        throw py::index_error("index " + std::to_string(index) + " out of range for size " + std::to_string(size));
-    return static_cast<std::size_t>(position);
-}
 
 #ifdef ORVIK_PYTHON_JSON
 // The JSON form, bound when the JSON library is built (JsonBindings.cpp).

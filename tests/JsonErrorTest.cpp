@@ -61,9 +61,9 @@ TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
 {
     const BadInput cases[] = {
         {"malformed", Changed(R"("nr":0,)", R"("nr":0,,)"),
-         R"(/essences/0: expected a member, found malformed JSON (The JSON document has an improper structure: missing or superfluous commas, braces, missing keys, etc.))"},
+         R"(/essences/0: expected a member, found malformed JSON (a missing or superfluous comma, colon, brace or bracket))"},
         {"truncated", StreamDocument().substr(0, 200),
-         R"((root): expected a JSON document, found malformed JSON (A string is opened, but never closed.))"},
+         R"((root): expected a JSON document, found malformed JSON (a string without its closing quote))"},
         {"not an object", "[1,2]", R"((root): expected an object, found an array)"},
         {"trailing text", StreamDocument() + "{}", R"((root): expected the end of the document, found more text)"},
         {"wrong type", Changed(R"("bitDepth":24,"fourCC":"lpcm"},{)", R"("bitDepth":"24","fourCC":"lpcm"},{)"),
@@ -113,7 +113,7 @@ TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
         {"nesting past the parser", Nested(2000),
          R"(/metadata/vendor.deep: expected a JSON object nested at most 100 levels deep)"},
         {"invalid UTF-8", Changed(R"("A7F3")", "\"A7\xC3\x28\""),
-         R"((root): expected a JSON document, found malformed JSON (The input is not valid UTF-8))"},
+         R"((root): expected a JSON document, found malformed JSON (text that is not UTF-8))"},
     };
     for (const BadInput& bad : cases) {
         SCOPED_TRACE(bad.what);

@@ -6,8 +6,8 @@
 
 #include <Orvik/DataModel/MediaAssets/Json/AnyDocument.h>
 #include <Orvik/DataModel/MediaAssets/Json/FromJson.h>
-#include <Orvik/DataModel/MediaAssets/Json/JsonPointer.h>
 #include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
+#include <Orvik/DataModel/MediaAssets/Json/JsonPointer.h>
 #include <Orvik/DataModel/MediaAssets/Json/Layout.h>
 #include <Orvik/DataModel/MediaAssets/Json/MetadataProfileCodec.h>
 #include <Orvik/DataModel/MediaAssets/Json/Otio.h>

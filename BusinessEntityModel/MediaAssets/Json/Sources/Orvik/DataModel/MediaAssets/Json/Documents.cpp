@@ -1,7 +1,9 @@
-// The top-level documents: ToJson, FromJson and SchemaName for each kind of document.
+// The top-level documents: the kinds of document, with their schema names, and ToJson, FromJson,
+// FromAnyJson and SchemaName for each.
 
 #include "Codecs.h"
 
+#include <Orvik/DataModel/MediaAssets/Json/AnyDocument.h>
 #include <Orvik/DataModel/MediaAssets/Json/FromJson.h>
 #include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
 #include <Orvik/DataModel/MediaAssets/Json/SchemaName.h>
@@ -16,31 +18,41 @@ namespace {
 using detail::Reader;
 using detail::Writer;
 
-// The schema name of each kind of document and how its top-level members are read.
+// For each kind of document: its schema name, how its object is written after the "schema"
+// member, and how the object's other members are read.
 template <typename T>
 struct DocumentOf;
 
 template <>
 struct DocumentOf<MediaAsset> {
-    static constexpr char kName[] = "MediaAsset";
+    static constexpr std::string_view kName = "MediaAsset";
+    static void Write(Writer& w, const MediaAsset& asset) { detail::Write(w, asset); }
     static void Read(Reader& r, Reader::Rest& rest, MediaAsset& asset) { detail::ReadMembers(r, rest, asset); }
 };
 
 template <>
 struct DocumentOf<MediaResource> {
-    static constexpr char kName[] = "MediaResource";
+    static constexpr std::string_view kName = "MediaResource";
+    static void Write(Writer& w, const MediaResource& resource) { detail::Write(w, resource); }
     static void Read(Reader& r, Reader::Rest& rest, MediaResource& resource) { detail::ReadMembers(r, rest, resource); }
 };
 
 template <>
 struct DocumentOf<Stream> {
-    static constexpr char kName[] = "Stream";
+    static constexpr std::string_view kName = "Stream";
+    static void Write(Writer& w, const Stream& stream) { detail::Write(w, stream); }
     static void Read(Reader& r, Reader::Rest& rest, Stream& stream) { detail::ReadMembers(r, rest, stream); }
 };
 
 template <>
 struct DocumentOf<std::shared_ptr<MediaAssetGroup>> {
-    static constexpr char kName[] = "MediaAssetGroup";
+    static constexpr std::string_view kName = "MediaAssetGroup";
+    static void Write(Writer& w, const MediaAssetGroup& group)
+    {
+        w.StartObject();
+        detail::WriteMembers(w, group);
+        w.EndObject();
+    }
     static void Read(Reader& r, Reader::Rest& rest, std::shared_ptr<MediaAssetGroup>& group)
     {
         group = detail::ReadGroup(r, rest);
@@ -49,7 +61,13 @@ struct DocumentOf<std::shared_ptr<MediaAssetGroup>> {
 
 template <>
 struct DocumentOf<PelkOperatorMetadataProfile> {
-    static constexpr char kName[] = "PelkOperatorMetadataProfile";
+    static constexpr std::string_view kName = "PelkOperatorMetadataProfile";
+    static void Write(Writer& w, const PelkOperatorMetadataProfile& profile)
+    {
+        w.StartObject();
+        detail::WriteMembers(w, profile);
+        w.EndObject();
+    }
     static void Read(Reader& r, Reader::Rest& rest, PelkOperatorMetadataProfile& profile)
     {
         detail::ReadMembers(r, rest, profile);
@@ -58,18 +76,37 @@ struct DocumentOf<PelkOperatorMetadataProfile> {
 
 template <>
 struct DocumentOf<AnglesPelkOperatorMetadataProfile> {
-    static constexpr char kName[] = "AnglesPelkOperatorMetadataProfile";
+    static constexpr std::string_view kName = "AnglesPelkOperatorMetadataProfile";
+    static void Write(Writer& w, const AnglesPelkOperatorMetadataProfile& profile)
+    {
+        w.StartObject();
+        detail::WriteMembers(w, profile);
+        w.EndObject();
+    }
     static void Read(Reader& r, Reader::Rest& rest, AnglesPelkOperatorMetadataProfile& profile)
     {
         detail::ReadMembers(r, rest, profile);
     }
 };
 
-template <typename T, typename Write>
-std::string Document(Layout layout, Write&& write)
+/// The object a document of the kind T holds, as ToJson takes it.
+template <typename T>
+const T& Written(const T& value)
+{
+    return value;
+}
+const MediaAssetGroup& Written(const std::shared_ptr<MediaAssetGroup>& group)
+{
+    if (!group)
+        throw JsonError("", "expected a group, found a null pointer");
+    return *group;
+}
+
+template <typename T, typename Value>
+std::string Document(const Value& value, Layout layout)
 {
     Writer w(DocumentOf<T>::kName);
-    write(w);
+    DocumentOf<T>::Write(w, value);
     return w.Finish(layout);
 }
 
@@ -78,48 +115,50 @@ void Put(std::ostream& out, const std::string& document)
     out.write(document.data(), static_cast<std::streamsize>(document.size()));
 }
 
+std::string ReadStream(std::istream& in)
+{
+    std::string document{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (in.bad())
+        throw JsonError("", "expected a readable stream, found a read error");
+    return document;
+}
+
+/// The schema names of the alternatives of AnyDocument, in their order.
+template <size_t... Kinds>
+constexpr std::array<std::string_view, sizeof...(Kinds)> KindNames(std::index_sequence<Kinds...>)
+{
+    return {DocumentOf<std::variant_alternative_t<Kinds, AnyDocument>>::kName...};
+}
+constexpr auto kKinds = KindNames(std::make_index_sequence<std::variant_size_v<AnyDocument>>());
+
+/// Reads the members of the document of the kind `kind` into `result`.
+template <size_t Kind = 0>
+void ReadKind(size_t kind, Reader& r, Reader::Rest& rest, AnyDocument& result)
+{
+    if constexpr (Kind < std::variant_size_v<AnyDocument>) {
+        if (kind != Kind)
+            return ReadKind<Kind + 1>(kind, r, rest, result);
+        using T = std::variant_alternative_t<Kind, AnyDocument>;
+        DocumentOf<T>::Read(r, rest, result.emplace<T>());
+    }
+}
+
 }  // namespace
 
-std::string ToJson(const MediaAsset& value, Layout layout)
-{
-    return Document<MediaAsset>(layout, [&](Writer& w) { detail::Write(w, value); });
-}
-
-std::string ToJson(const MediaResource& value, Layout layout)
-{
-    return Document<MediaResource>(layout, [&](Writer& w) { detail::Write(w, value); });
-}
-
-std::string ToJson(const Stream& value, Layout layout)
-{
-    return Document<Stream>(layout, [&](Writer& w) { detail::Write(w, value); });
-}
-
+std::string ToJson(const MediaAsset& value, Layout layout) { return Document<MediaAsset>(value, layout); }
+std::string ToJson(const MediaResource& value, Layout layout) { return Document<MediaResource>(value, layout); }
+std::string ToJson(const Stream& value, Layout layout) { return Document<Stream>(value, layout); }
 std::string ToJson(const MediaAssetGroup& value, Layout layout)
 {
-    return Document<std::shared_ptr<MediaAssetGroup>>(layout, [&](Writer& w) {
-        w.StartObject();
-        detail::WriteMembers(w, value);
-        w.EndObject();
-    });
+    return Document<std::shared_ptr<MediaAssetGroup>>(value, layout);
 }
-
 std::string ToJson(const PelkOperatorMetadataProfile& value, Layout layout)
 {
-    return Document<PelkOperatorMetadataProfile>(layout, [&](Writer& w) {
-        w.StartObject();
-        detail::WriteMembers(w, value);
-        w.EndObject();
-    });
+    return Document<PelkOperatorMetadataProfile>(value, layout);
 }
-
 std::string ToJson(const AnglesPelkOperatorMetadataProfile& value, Layout layout)
 {
-    return Document<AnglesPelkOperatorMetadataProfile>(layout, [&](Writer& w) {
-        w.StartObject();
-        detail::WriteMembers(w, value);
-        w.EndObject();
-    });
+    return Document<AnglesPelkOperatorMetadataProfile>(value, layout);
 }
 
 void ToJson(std::ostream& out, const MediaAsset& value, Layout layout) { Put(out, ToJson(value, layout)); }
@@ -132,29 +171,55 @@ void ToJson(std::ostream& out, const AnglesPelkOperatorMetadataProfile& value, L
     Put(out, ToJson(value, layout));
 }
 
+std::string ToJson(const AnyDocument& value, Layout layout)
+{
+    return std::visit(
+        [&](const auto& held) {
+            using T = std::decay_t<decltype(held)>;
+            return Document<T>(Written(held), layout);
+        },
+        value);
+}
+
 template <typename T>
 T FromJson(std::string_view document)
 {
-    Reader r(document, DocumentOf<T>::kName);
+    Reader r(document);
     T result{};
-    r.Document([&](Reader::Rest& rest) { DocumentOf<T>::Read(r, rest, result); });
+    r.Document(std::array<std::string_view, 1>{DocumentOf<T>::kName},
+               [&](size_t, Reader::Rest& rest) { DocumentOf<T>::Read(r, rest, result); });
     return result;
 }
 
 template <typename T>
 T FromJson(std::istream& in)
 {
-    const std::string document{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (in.bad())
-        throw JsonError("", "expected a readable stream, found a read error");
-    return FromJson<T>(std::string_view(document));
+    return FromJson<T>(std::string_view(ReadStream(in)));
 }
+
+AnyDocument FromAnyJson(std::string_view document)
+{
+    Reader r(document);
+    AnyDocument result;
+    r.Document(kKinds, [&](size_t kind, Reader::Rest& rest) { ReadKind(kind, r, rest, result); });
+    return result;
+}
+
+AnyDocument FromAnyJson(std::istream& in) { return FromAnyJson(std::string_view(ReadStream(in))); }
 
 std::string SchemaName(std::string_view document)
 {
-    Reader r(document, "");
+    Reader r(document);
     return r.SchemaName();
 }
+
+template <typename T>
+std::string_view SchemaNameOf()
+{
+    return DocumentOf<T>::kName;
+}
+
+std::string_view SchemaNameOf(const AnyDocument& value) { return kKinds[value.index()]; }
 
 template MediaAsset FromJson<MediaAsset>(std::string_view);
 template MediaResource FromJson<MediaResource>(std::string_view);
@@ -169,5 +234,12 @@ template Stream FromJson<Stream>(std::istream&);
 template std::shared_ptr<MediaAssetGroup> FromJson<std::shared_ptr<MediaAssetGroup>>(std::istream&);
 template PelkOperatorMetadataProfile FromJson<PelkOperatorMetadataProfile>(std::istream&);
 template AnglesPelkOperatorMetadataProfile FromJson<AnglesPelkOperatorMetadataProfile>(std::istream&);
+
+template std::string_view SchemaNameOf<MediaAsset>();
+template std::string_view SchemaNameOf<MediaResource>();
+template std::string_view SchemaNameOf<Stream>();
+template std::string_view SchemaNameOf<std::shared_ptr<MediaAssetGroup>>();
+template std::string_view SchemaNameOf<PelkOperatorMetadataProfile>();
+template std::string_view SchemaNameOf<AnglesPelkOperatorMetadataProfile>();
 
 }  // namespace Orvik::DataModel::MediaAssets::Json

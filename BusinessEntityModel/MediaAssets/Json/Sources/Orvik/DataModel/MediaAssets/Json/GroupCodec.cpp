@@ -2,116 +2,116 @@
 // field of its own that any group may set.
 
 #include "Codecs.h"
+#include "Collections.h"
+#include "FieldTable.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
 
-constexpr char kGroupKind[] = "MediaAssetGroup";
-constexpr char kAnglesGroupKind[] = "AnglesMediaAssetGroup";
-constexpr char kItemKind[] = "MediaAssetGroupItem";
-constexpr char kAnglesItemKind[] = "AnglesMediaAssetGroupItem";
+using namespace Members;
 
-constexpr auto kGroupMembers = MemberNames("objectId", "metadata", "id", "type", "name", "items");
-constexpr auto kItemMembers = MemberNames("objectId", "mediaAsset");
-constexpr auto kAnglesItemMembers = MemberNames("objectId", "mediaAsset", "name");
+constexpr std::string_view kGroupKind = "MediaAssetGroup";
+constexpr std::string_view kAnglesGroupKind = "AnglesMediaAssetGroup";
+constexpr std::string_view kItemKind = "MediaAssetGroupItem";
+constexpr std::string_view kAnglesItemKind = "AnglesMediaAssetGroupItem";
+
+// clang-format off
+/// The members of every item, first in both items' tables.
+template <typename I>
+constexpr Fields<2, I> kItemFields{{
+    {kObjectId,
+     [](Writer& w, const I& item) { w.Int(item.ObjectId()); },
+     [](Reader& r, value v, I& item) { item.ObjectId(r.Int64(v)); }},
+    {kMediaAsset,
+     [](Writer& w, const I& item) { w.String(item.MediaAsset().Id().Value()); },
+     [](Reader& r, value v, I& item) { item.MediaAsset(MediaAssetReference(MediaAssetId(r.Text(v)))); }},
+}};
+
+constexpr auto kItemTable = MakeTable(kItemFields<MediaAssetGroupItem>);
+
+constexpr auto kAnglesItemTable = MakeTable(kItemFields<AnglesMediaAssetGroupItem>,
+                                            Fields<1, AnglesMediaAssetGroupItem>{{
+    {kName,
+     [](Writer& w, const AnglesMediaAssetGroupItem& item) { w.String(item.Name()); },
+     [](Reader& r, value v, AnglesMediaAssetGroupItem& item) { item.Name(r.Text(v)); }},
+}});
+// clang-format on
 
 void Write(Writer& w, const std::shared_ptr<MediaAssetGroupItem>& item)
 {
     if (!item)
         w.Fail("expected a group item, found a null pointer");
-    const auto* angles = dynamic_cast<const AnglesMediaAssetGroupItem*>(item.get());
-    w.StartObject();
-    w.String("kind", angles != nullptr ? kAnglesItemKind : kItemKind);
-    w.Int("objectId", item->ObjectId());
-    w.String("mediaAsset", item->MediaAsset().Id().Value());
-    if (angles != nullptr)
-        w.String("name", angles->Name());
-    w.EndObject();
+    if (const auto* angles = dynamic_cast<const AnglesMediaAssetGroupItem*>(item.get()))
+        WriteTagged(w, kKind, kAnglesItemKind, kAnglesItemTable, *angles);
+    else
+        WriteTagged(w, kKind, kItemKind, kItemTable, *item);
 }
 
 std::shared_ptr<MediaAssetGroupItem> ReadItem(Reader& r, value v)
 {
     std::shared_ptr<MediaAssetGroupItem> result;
-    r.Polymorphic(v, "kind", [&](std::string_view kind, Reader::Rest& rest) {
-        if (kind == kItemKind) {
-            auto item = std::make_shared<MediaAssetGroupItem>();
-            r.ReadRest(rest, kItemMembers, [&](size_t index, value member) {
-                if (index == 0)
-                    item->ObjectId(r.Int64(member));
-                else
-                    item->MediaAsset(MediaAssetReference(MediaAssetId(r.Text(member))));
-            });
-            result = std::move(item);
-        } else if (kind == kAnglesItemKind) {
-            auto item = std::make_shared<AnglesMediaAssetGroupItem>(Utf8String());
-            r.ReadRest(rest, kAnglesItemMembers, [&](size_t index, value member) {
-                if (index == 0)
-                    item->ObjectId(r.Int64(member));
-                else if (index == 1)
-                    item->MediaAsset(MediaAssetReference(MediaAssetId(r.Text(member))));
-                else
-                    item->Name(r.Text(member));
-            });
-            result = std::move(item);
-        } else {
-            const PathSegment segment(r.CurrentPath(), "kind");
-            r.Fail(std::string("expected \"") + kItemKind + "\" or \"" + kAnglesItemKind + "\", found \"" + std::string(kind)
-                   + "\"");
-        }
+    r.Polymorphic(v, kKind, [&](std::string_view kind, Reader::Rest& rest) {
+        if (kind == kItemKind)
+            result = ReadInto(r, rest, kItemTable, std::make_shared<MediaAssetGroupItem>());
+        else if (kind == kAnglesItemKind)
+            result = ReadInto(r, rest, kAnglesItemTable, std::make_shared<AnglesMediaAssetGroupItem>(Utf8String()));
+        else
+            r.FailTag(kKind, Alternatives({kItemKind, kAnglesItemKind}), kind);
     });
     return result;
 }
+
+// clang-format off
+constexpr auto kGroupTable = MakeTable(Fields<6, MediaAssetGroup>{{
+    {kObjectId,
+     [](Writer& w, const MediaAssetGroup& group) { w.Int(group.ObjectId()); },
+     [](Reader& r, value v, MediaAssetGroup& group) { group.ObjectId(r.Int64(v)); }},
+    {kMetadata,
+     [](Writer& w, const MediaAssetGroup& group) { Write(w, group.Metadata()); },
+     [](Reader& r, value v, MediaAssetGroup& group) { Read(r, v, group.Metadata()); }},
+    {kId,
+     [](Writer& w, const MediaAssetGroup& group) { w.String(group.Id().Value()); },
+     [](Reader& r, value v, MediaAssetGroup& group) { group.Id(MediaAssetGroupId(r.Text(v))); }},
+    {kType,
+     [](Writer& w, const MediaAssetGroup& group) { w.String(group.Type()); },
+     [](Reader& r, value v, MediaAssetGroup& group) { group.Type(r.Text(v)); }},
+    {kName,
+     [](Writer& w, const MediaAssetGroup& group) { w.String(group.Name()); },
+     [](Reader& r, value v, MediaAssetGroup& group) { group.Name(r.Text(v)); }},
+    {kItems,
+     [](Writer& w, const MediaAssetGroup& group) {
+         w.Array(group.Items(), [&](const std::shared_ptr<MediaAssetGroupItem>& item) { Write(w, item); });
+     },
+     [](Reader& r, value v, MediaAssetGroup& group) {
+         ReadAppending<std::shared_ptr<MediaAssetGroupItem>>(r, v, group.Items(),
+                                                             [&](value element) { return ReadItem(r, element); });
+     }},
+}});
+// clang-format on
 
 }  // namespace
 
 void WriteMembers(Writer& w, const MediaAssetGroup& group)
 {
-    w.String("kind", dynamic_cast<const AnglesMediaAssetGroup*>(&group) != nullptr ? kAnglesGroupKind : kGroupKind);
-    w.Int("objectId", group.ObjectId());
-    w.Member("metadata", [&] { Write(w, group.Metadata()); });
-    w.String("id", group.Id().Value());
-    w.String("type", group.Type());
-    w.String("name", group.Name());
-    w.Array("items", group.Items(), [&](const std::shared_ptr<MediaAssetGroupItem>& item) { Write(w, item); });
+    w.Key(kKind);
+    w.String(dynamic_cast<const AnglesMediaAssetGroup*>(&group) != nullptr ? kAnglesGroupKind : kGroupKind);
+    WriteFields(w, kGroupTable, group);
 }
 
 std::shared_ptr<MediaAssetGroup> ReadGroup(Reader& r, Reader::Rest& rest)
 {
     std::shared_ptr<MediaAssetGroup> group;
     {
-        const std::string kind = r.Tag(rest, "kind");
-        if (kind == kAnglesGroupKind) {
+        const std::string kind = r.Tag(rest, kKind);
+        if (kind == kAnglesGroupKind)
             group = std::make_shared<AnglesMediaAssetGroup>();
-        } else if (kind == kGroupKind) {
+        else if (kind == kGroupKind)
             group = std::make_shared<MediaAssetGroup>(Identifier::Empty(), Utf8String());
-        } else {
-            const PathSegment segment(r.CurrentPath(), "kind");
-            r.Fail(std::string("expected \"") + kGroupKind + "\" or \"" + kAnglesGroupKind + "\", found \"" + kind + "\"");
-        }
+        else
+            r.FailTag(kKind, Alternatives({kGroupKind, kAnglesGroupKind}), kind);
     }
-    r.ReadRest(rest, kGroupMembers, [&](size_t index, value member) {
-        switch (index) {
-        case 0:
-            group->ObjectId(r.Int64(member));
-            break;
-        case 1:
-            Read(r, member, group->Metadata());
-            break;
-        case 2:
-            group->Id(MediaAssetGroupId(r.Text(member)));
-            break;
-        case 3:
-            group->Type(r.Text(member));
-            break;
-        case 4:
-            group->Name(r.Text(member));
-            break;
-        default:
-            ReadAppending<std::shared_ptr<MediaAssetGroupItem>>(r, member, group->Items(),
-                                                                [&](value element) { return ReadItem(r, element); });
-        }
-    });
+    ReadFields(r, rest, kGroupTable, *group);
     return group;
 }
 

@@ -1,146 +1,114 @@
 // Locations, tagged by their "type".
 
 #include "Codecs.h"
+#include "FieldTable.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
 
-constexpr auto kFileMembers =
-    MemberNames("name", "size", "isReadOnly", "creationDate", "modificationDate", "lastAccessDate", "uri");
-constexpr auto kZanMembers = MemberNames("serverId", "sequenceId");
-constexpr auto kContentTrackMembers = MemberNames("daxServerId", "daxPartitionId", "daxContentTrackId");
-constexpr auto kProtectMembers = MemberNames("daxServerId", "daxUri");
+using namespace Members;
 
-std::unique_ptr<Location> ReadFile(Reader& r, Reader::Rest& rest)
-{
-    auto file = std::make_unique<FileLocation>();
-    r.ReadRest(rest, kFileMembers, [&](size_t index, value v) {
-        switch (index) {
-        case 0:
-            file->Name(r.Text(v));
-            break;
-        case 1:
-            file->Size(r.Int64(v));
-            break;
-        case 2:
-            file->IsReadOnly(r.Bool(v));
-            break;
-        case 3:
-            file->CreationDate(r.Int64(v));
-            break;
-        case 4:
-            file->ModificationDate(r.Int64(v));
-            break;
-        case 5:
-            file->LastAccessDate(r.Int64(v));
-            break;
-        default:
-            file->Uri(URI(r.Text(v)));
-        }
-    });
-    return file;
-}
+// clang-format off
+constexpr auto kFileTable = MakeTable(Fields<7, FileLocation>{{
+    {kName,
+     [](Writer& w, const FileLocation& file) { w.String(file.Name()); },
+     [](Reader& r, value v, FileLocation& file) { file.Name(r.Text(v)); }},
+    {kSize,
+     [](Writer& w, const FileLocation& file) { w.Int(file.Size()); },
+     [](Reader& r, value v, FileLocation& file) { file.Size(r.Int64(v)); }},
+    {kIsReadOnly,
+     [](Writer& w, const FileLocation& file) { w.Bool(file.IsReadOnly()); },
+     [](Reader& r, value v, FileLocation& file) { file.IsReadOnly(r.Bool(v)); }},
+    {kCreationDate,
+     [](Writer& w, const FileLocation& file) { w.Int(file.CreationDate()); },
+     [](Reader& r, value v, FileLocation& file) { file.CreationDate(r.Int64(v)); }},
+    {kModificationDate,
+     [](Writer& w, const FileLocation& file) { w.Int(file.ModificationDate()); },
+     [](Reader& r, value v, FileLocation& file) { file.ModificationDate(r.Int64(v)); }},
+    {kLastAccessDate,
+     [](Writer& w, const FileLocation& file) { w.Int(file.LastAccessDate()); },
+     [](Reader& r, value v, FileLocation& file) { file.LastAccessDate(r.Int64(v)); }},
+    {kUri,
+     [](Writer& w, const FileLocation& file) { w.String(file.Uri().Value()); },
+     [](Reader& r, value v, FileLocation& file) { file.Uri(URI(r.Text(v))); }},
+}});
 
-std::unique_ptr<Location> ReadZan(Reader& r, Reader::Rest& rest)
-{
-    auto zan = std::make_unique<ZanLocation>();
-    r.ReadRest(rest, kZanMembers, [&](size_t index, value v) {
-        if (index == 0)
-            zan->ServerId(ZanServerId(r.Int32(v)));
-        else
-            zan->SequenceId(r.Text(v));
-    });
-    return zan;
-}
+constexpr auto kZanTable = MakeTable(Fields<2, ZanLocation>{{
+    {kServerId,
+     [](Writer& w, const ZanLocation& zan) { w.Int(zan.ServerId().SerialNumber()); },
+     [](Reader& r, value v, ZanLocation& zan) { zan.ServerId(ZanServerId(r.Int32(v))); }},
+    {kSequenceId,
+     [](Writer& w, const ZanLocation& zan) { w.String(zan.SequenceId()); },
+     [](Reader& r, value v, ZanLocation& zan) { zan.SequenceId(r.Text(v)); }},
+}});
 
-std::unique_ptr<Location> ReadContentTrack(Reader& r, Reader::Rest& rest)
-{
-    auto track = std::make_unique<DaxContentTrackLocation>();
-    r.ReadRest(rest, kContentTrackMembers, [&](size_t index, value v) {
-        switch (index) {
-        case 0:
-            track->ServerId(Identifier(r.Text(v)));
-            break;
-        case 1:
-            track->PartitionId(Identifier(r.Text(v)));
-            break;
-        default:
-            track->ContentTrackId(Identifier(r.Text(v)));
-        }
-    });
-    return track;
-}
+/// The storage server, first in both storage locations' tables.
+template <typename L>
+constexpr Fields<1, L> kStorageFields{{
+    {kDaxServerId,
+     [](Writer& w, const L& location) { w.String(location.ServerId().Value()); },
+     [](Reader& r, value v, L& location) { location.ServerId(Identifier(r.Text(v))); }},
+}};
 
-std::unique_ptr<Location> ReadProtect(Reader& r, Reader::Rest& rest)
-{
-    auto item = std::make_unique<DaxProtectLocation>();
-    r.ReadRest(rest, kProtectMembers, [&](size_t index, value v) {
-        if (index == 0)
-            item->ServerId(Identifier(r.Text(v)));
-        else
-            item->Uri(URI(r.Text(v)));
-    });
-    return item;
-}
+constexpr auto kContentTrackTable = MakeTable(kStorageFields<DaxContentTrackLocation>,
+                                              Fields<2, DaxContentTrackLocation>{{
+    {kDaxPartitionId,
+     [](Writer& w, const DaxContentTrackLocation& track) { w.String(track.PartitionId().Value()); },
+     [](Reader& r, value v, DaxContentTrackLocation& track) { track.PartitionId(Identifier(r.Text(v))); }},
+    {kDaxContentTrackId,
+     [](Writer& w, const DaxContentTrackLocation& track) { w.String(track.ContentTrackId().Value()); },
+     [](Reader& r, value v, DaxContentTrackLocation& track) { track.ContentTrackId(Identifier(r.Text(v))); }},
+}});
+
+constexpr auto kProtectTable = MakeTable(kStorageFields<DaxProtectLocation>, Fields<1, DaxProtectLocation>{{
+    {kDaxUri,
+     [](Writer& w, const DaxProtectLocation& item) { w.String(item.Uri().Value()); },
+     [](Reader& r, value v, DaxProtectLocation& item) { item.Uri(URI(r.Text(v))); }},
+}});
+// clang-format on
 
 }  // namespace
 
 void Write(Writer& w, const Location& location)
 {
-    w.StartObject();
-    if (const auto* file = dynamic_cast<const FileLocation*>(&location)) {
-        w.String("type", Location::ToString(Location::FileLocation));
-        w.String("name", file->Name());
-        w.Int("size", file->Size());
-        w.Bool("isReadOnly", file->IsReadOnly());
-        w.Int("creationDate", file->CreationDate());
-        w.Int("modificationDate", file->ModificationDate());
-        w.Int("lastAccessDate", file->LastAccessDate());
-        w.String("uri", file->Uri().Value());
-    } else if (const auto* zan = dynamic_cast<const ZanLocation*>(&location)) {
-        w.String("type", Location::ToString(Location::ZanLocation));
-        w.Int("serverId", zan->ServerId().SerialNumber());
-        w.String("sequenceId", zan->SequenceId());
-    } else if (const auto* track = dynamic_cast<const DaxContentTrackLocation*>(&location)) {
-        w.String("type", Location::ToString(Location::DaxContentTrackLocation));
-        w.String("daxServerId", track->ServerId().Value());
-        w.String("daxPartitionId", track->PartitionId().Value());
-        w.String("daxContentTrackId", track->ContentTrackId().Value());
-    } else if (const auto* item = dynamic_cast<const DaxProtectLocation*>(&location)) {
-        w.String("type", Location::ToString(Location::DaxProtectLocation));
-        w.String("daxServerId", item->ServerId().Value());
-        w.String("daxUri", item->Uri().Value());
-    } else {
+    if (const auto* file = dynamic_cast<const FileLocation*>(&location))
+        WriteTagged(w, kType, Location::ToString(Location::FileLocation), kFileTable, *file);
+    else if (const auto* zan = dynamic_cast<const ZanLocation*>(&location))
+        WriteTagged(w, kType, Location::ToString(Location::ZanLocation), kZanTable, *zan);
+    else if (const auto* track = dynamic_cast<const DaxContentTrackLocation*>(&location))
+        WriteTagged(w, kType, Location::ToString(Location::DaxContentTrackLocation), kContentTrackTable, *track);
+    else if (const auto* item = dynamic_cast<const DaxProtectLocation*>(&location))
+        WriteTagged(w, kType, Location::ToString(Location::DaxProtectLocation), kProtectTable, *item);
+    else
         w.Fail("expected a file, video-server or storage location, found another class");
-    }
-    w.EndObject();
 }
 
 std::unique_ptr<Location> ReadLocation(Reader& r, value v)
 {
     std::unique_ptr<Location> location;
-    r.Polymorphic(v, "type", [&](std::string_view type, Reader::Rest& rest) {
+    r.Polymorphic(v, kType, [&](std::string_view type, Reader::Rest& rest) {
         bool failed = false;
-        switch (Location::ToType(std::string(type), failed)) {
+        const Location::Type kind = Location::ToType(std::string(type), failed);
+        if (failed)
+            r.FailTag(kType,
+                      Alternatives({Location::ToString(Location::FileLocation), Location::ToString(Location::ZanLocation),
+                                    Location::ToString(Location::DaxContentTrackLocation),
+                                    Location::ToString(Location::DaxProtectLocation)}),
+                      type);
+        switch (kind) {
         case Location::FileLocation:
-            location = failed ? nullptr : ReadFile(r, rest);
+            location = ReadInto(r, rest, kFileTable, std::make_unique<FileLocation>());
             break;
         case Location::ZanLocation:
-            location = ReadZan(r, rest);
+            location = ReadInto(r, rest, kZanTable, std::make_unique<ZanLocation>());
             break;
         case Location::DaxContentTrackLocation:
-            location = ReadContentTrack(r, rest);
+            location = ReadInto(r, rest, kContentTrackTable, std::make_unique<DaxContentTrackLocation>());
             break;
         case Location::DaxProtectLocation:
-            location = ReadProtect(r, rest);
+            location = ReadInto(r, rest, kProtectTable, std::make_unique<DaxProtectLocation>());
             break;
-        }
-        if (!location) {
-            const PathSegment segment(r.CurrentPath(), "type");
-            r.Fail("expected \"FileLocation\", \"ZanLocation\", \"DaxContentTrackLocation\" or \"DaxProtectLocation\", "
-                   "found \""
-                   + std::string(type) + "\"");
         }
     });
     return location;

@@ -23,7 +23,7 @@ void Path::AppendTo(std::string& text) const
         }
         char digits[21] = {'/'};
         const char* const end = std::to_chars(digits + 1, digits + sizeof digits, segment.index).ptr;
-        text.append(digits, end);
+        text.append(digits, static_cast<size_t>(end - digits));
     }
 }
 

@@ -18,6 +18,9 @@ public:
     void PushName(std::string_view name) { Push({name, 0, false}); }
     void PushIndex(size_t index) { Push({{}, index, true}); }
     void Pop() { --depth; }
+    /// Replaces the last segment: the next member of an object, the next element of an array.
+    void Rename(std::string_view name) { segments[depth - 1] = {name, 0, false}; }
+    void Renumber(size_t index) { segments[depth - 1] = {{}, index, true}; }
 
     /// "/mediaResources/2/pointer"; "" for the whole document. "~" and "/" in names are escaped.
     std::string ToString() const;

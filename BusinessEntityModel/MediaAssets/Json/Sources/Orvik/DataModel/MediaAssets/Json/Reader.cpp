@@ -3,6 +3,9 @@
 #include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
 #include <Orvik/DataModel/MediaAssets/Json/SchemaName.h>
 
+#include <Orvik/DataModel/MediaAssets/Json/Members.h>
+
+#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -50,9 +53,52 @@ std::string Found(value& v)
     return "malformed JSON";
 }
 
+// What is wrong with malformed JSON, in the library's own words, so that a new version of the
+// parser does not change the texts of the errors.
+std::string Malformed(simdjson::error_code error)
+{
+    switch (error) {
+    case simdjson::UTF8_ERROR:
+        return "malformed JSON (text that is not UTF-8)";
+    case simdjson::UNCLOSED_STRING:
+        return "malformed JSON (a string without its closing quote)";
+    case simdjson::STRING_ERROR:
+    case simdjson::UNESCAPED_CHARS:
+        return "malformed JSON (a string with a control character or a bad escape)";
+    case simdjson::NUMBER_ERROR:
+        return "malformed JSON (a malformed number)";
+    case simdjson::T_ATOM_ERROR:
+    case simdjson::F_ATOM_ERROR:
+    case simdjson::N_ATOM_ERROR:
+        return "malformed JSON (a word that is not true, false or null)";
+    case simdjson::EMPTY:
+        return "malformed JSON (no value)";
+    case simdjson::TAPE_ERROR:
+    case simdjson::INCOMPLETE_ARRAY_OR_OBJECT:
+        return "malformed JSON (a missing or superfluous comma, colon, brace or bracket)";
+    case simdjson::CAPACITY:
+        return "a document larger than 4 GiB";
+    default:
+        return "malformed JSON";
+    }
+}
+
 }  // namespace
 
-Reader::Reader(std::string_view document, std::string_view schemaName) : schemaName(schemaName), workspace(TakeWorkspace())
+std::string Alternatives(const std::string_view* names, size_t count)
+{
+    std::string text;
+    for (size_t index = 0; index < count; ++index) {
+        if (index > 0)
+            text += index + 1 == count ? " or " : ", ";
+        text += '"';
+        text += names[index];
+        text += '"';
+    }
+    return text;
+}
+
+Reader::Reader(std::string_view document) : workspace(TakeWorkspace())
 {
     const size_t capacity = document.size() + simdjson::SIMDJSON_PADDING;
     if (workspace->capacity < capacity) {
@@ -90,14 +136,14 @@ std::string_view Reader::RawObject(value v)
 bool Reader::IsString(value v) { return Take(v.type(), "a JSON value") == simdjson::ondemand::json_type::string; }
 
 namespace {
-constexpr auto kSchemaMembers = MemberNames("name", "version");
+constexpr MemberSet<2> kSchemaMembers({Members::kName, Members::kVersion});
 }  // namespace
 
 std::string Reader::SchemaName()
 {
     Rest rest = OpenRoot();
-    const value schema = First(rest, "schema");
-    const PathSegment segment(path, "schema");
+    const value schema = First(rest, Members::kSchema);
+    const PathSegment segment(path, Members::kSchema);
     std::string name;
     Object(schema, kSchemaMembers, [&](size_t index, value member) {
         if (index == 0)
@@ -114,20 +160,23 @@ Reader::Rest Reader::OpenRoot()
     return Open(root);
 }
 
-void Reader::CheckSchema(value v)
+size_t Reader::CheckSchema(value v, const std::string_view* kinds, size_t count)
 {
-    const PathSegment segment(path, "schema");
+    const PathSegment segment(path, Members::kSchema);
+    size_t kind = 0;
     Object(v, kSchemaMembers, [&](size_t index, value member) {
         if (index == 0) {
             const std::string_view name = String(member);
-            if (name != schemaName)
-                Fail("expected \"" + std::string(schemaName) + "\", found \"" + std::string(name) + "\"");
+            kind = static_cast<size_t>(std::find(kinds, kinds + count, name) - kinds);
+            if (kind == count)
+                Fail("expected " + Alternatives(kinds, count) + ", found \"" + std::string(name) + "\"");
         } else {
             const int64_t version = Int64(member);
             if (version != kSchemaVersion)
                 Fail("expected version " + std::to_string(kSchemaVersion) + ", found " + std::to_string(version));
         }
     });
+    return kind;
 }
 
 value Reader::First(Rest& rest, std::string_view name)
@@ -158,6 +207,12 @@ size_t Reader::Find(simdjson::ondemand::field& field, const std::string_view* na
 
 void Reader::Fail(const std::string& expected) const { throw JsonError(path.ToString(), expected); }
 
+void Reader::FailTag(std::string_view tag, const std::string& alternatives, std::string_view found)
+{
+    const PathSegment segment(path, tag);
+    Fail("expected " + alternatives + ", found \"" + std::string(found) + "\"");
+}
+
 void Reader::Fail(simdjson::error_code error, std::string_view expected, value* v) const
 {
     if (error == simdjson::MEMALLOC)
@@ -168,7 +223,7 @@ void Reader::Fail(simdjson::error_code error, std::string_view expected, value* 
     else if (error == simdjson::DEPTH_ERROR)
         message += "nesting deeper than " + std::to_string(simdjson::DEFAULT_MAX_DEPTH) + " levels";
     else
-        message += std::string("malformed JSON (") + simdjson::error_message(error) + ")";
+        message += Malformed(error);
     Fail(message);
 }
 

@@ -1,21 +1,24 @@
 #pragma once
 
 // Reads one document with simdjson's On-Demand parser, in one pass: each codec asks for the
-// members of its object by a fixed table of names, and every failure becomes a JsonError naming
+// members of its object by a fixed set of names, and every failure becomes a JsonError naming
 // the JSON pointer of the value and what was expected.
 
+#include "EnumerationTexts.h"
+#include "MemberKey.h"
 #include "Path.h"
 #include "SharedPlaces.h"
+
+#include <Orvik/DataModel/MediaAssets/Json/Members.h>
 
 #include <simdjson.h>
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+#include <initializer_list>
 #include <limits>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <typeinfo>
@@ -25,86 +28,26 @@ namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 using simdjson::ondemand::value;
 
-/// A member name as the words of text that a key spelled exactly so starts with in the document,
-/// its closing quote included: a key is matched by at most three word comparisons. Names hold
-/// neither quotes nor backslashes, so such a key has no escapes and is the name itself. The
-/// tables of names are built while compiling, where a name of more than 23 characters fails.
-class MemberKey {
-public:
-    constexpr MemberKey() = default;
-    constexpr explicit MemberKey(std::string_view name)
-    {
-        if (name.size() >= kWords * sizeof(uint64_t))
-            throw std::length_error("member name too long");
-        for (size_t at = 0; at <= name.size(); ++at) {
-            const auto byte = static_cast<uint64_t>(static_cast<unsigned char>(at < name.size() ? name[at] : '"'));
-            const size_t shift = 8 * (__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__ ? at % 8 : 7 - at % 8);
-            words[at / 8] |= byte << shift;
-            masks[at / 8] |= uint64_t{0xFF} << shift;
-        }
-        count = name.size() / 8 + 1;
-    }
-
-    /// Whether the key whose text starts at `raw`, in a document padded as simdjson requires, is
-    /// this name written without escapes.
-    bool Matches(const char* raw) const noexcept
-    {
-        for (size_t index = 0; index < count; ++index) {
-            uint64_t word = 0;
-            std::memcpy(&word, raw + index * sizeof(uint64_t), sizeof(uint64_t));
-            if ((word & masks[index]) != words[index])
-                return false;
-        }
-        return true;
-    }
-
-private:
-    static constexpr size_t kWords = 3;
-    std::array<uint64_t, kWords> words{};
-    std::array<uint64_t, kWords> masks{};
-    size_t count = 0;
-};
-
-template <size_t N>
-constexpr std::array<MemberKey, N> KeysOf(const std::array<std::string_view, N>& names)
+/// The names as a message lists them: "\"A\"", "\"A\" or \"B\"", "\"A\", \"B\" or \"C\"".
+std::string Alternatives(const std::string_view* names, size_t count);
+inline std::string Alternatives(std::initializer_list<std::string_view> names)
 {
-    std::array<MemberKey, N> keys{};
-    for (size_t index = 0; index < N; ++index)
-        keys[index] = MemberKey(names[index]);
-    return keys;
+    return Alternatives(names.begin(), names.size());
 }
 
-/// The member names of one kind of object, in document order; members whose bit is set in
-/// `optional` may be absent.
+/// The member names of one kind of object, in document order, with their keys; members whose
+/// bit is set in `optional` may be absent.
 template <size_t N>
-struct Members {
+struct MemberSet {
     static_assert(N <= 64, "one bit per member");
+    static constexpr size_t kSize = N;
     std::array<std::string_view, N> names;
-    uint64_t optional = 0;
-    std::array<MemberKey, N> keys = KeysOf(names);
-};
+    std::array<MemberKey, N> keys;
+    uint64_t optional;
 
-template <typename... Names>
-constexpr Members<sizeof...(Names)> MemberNames(Names... names)
-{
-    return Members<sizeof...(Names)>{{std::string_view(names)...}, 0};
-}
-
-/// The calling thread's own T, made on first use. Bind the result once: each mention of a
-/// thread-local variable looks its address up again, through a call into the dynamic loader.
-template <typename T>
-[[gnu::noinline]] T& ThreadOwn()
-{
-    thread_local T object;
-    return object;
-}
-
-/// The last text that a conversion to E accepted, and its value.
-template <typename E>
-struct AcceptedText {
-    E (*convert)(const std::string&, bool&) = nullptr;
-    std::string text;
-    E value{};
+    constexpr explicit MemberSet(const std::array<std::string_view, N>& names, uint64_t optional = 0)
+        : names(names), keys(KeysOf(names)), optional(optional)
+    {}
 };
 
 class Reader {
@@ -118,7 +61,6 @@ public:
         size_t capacity = 0;
         SharedPlaces places;
     };
-    /// Parses `text`, whose top-level object must carry the schema `schemaName`.
     /// Gives a workspace back to the thread's spare when there is none; a reader that fails
     /// anywhere, even while it is being built, gives its workspace back too. (simdjson 3.0 does
     /// not check the allocation of the string buffer when a parser grows: a parser kept grown
@@ -128,7 +70,8 @@ public:
     };
     using LentWorkspace = std::unique_ptr<Workspace, GiveBack>;
 
-    Reader(std::string_view text, std::string_view schemaName);
+    /// Parses `text`, with the thread's workspace.
+    explicit Reader(std::string_view text);
     ~Reader();
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
@@ -139,15 +82,16 @@ public:
         simdjson::ondemand::object_iterator end;
     };
 
-    /// Checks that the top-level object opens with the expected "schema" member, calls
-    /// `read(rest)` for its other members, then checks that nothing follows the object.
-    template <typename Read>
-    void Document(Read&& read)
+    /// Checks that the top-level object opens with a "schema" member naming one of `kinds` and
+    /// the version this library reads, calls `read(kind, rest)` with the index of that name for
+    /// the object's other members, then checks that nothing follows the object.
+    template <size_t N, typename Read>
+    void Document(const std::array<std::string_view, N>& kinds, Read&& read)
     {
         Rest rest = OpenRoot();
-        CheckSchema(First(rest, "schema"));
+        const size_t kind = CheckSchema(First(rest, Members::kSchema), kinds.data(), N);
         ++rest.it;
-        read(rest);
+        read(kind, rest);
         const char* after = nullptr;
         if (document.current_location().get(after) == simdjson::SUCCESS)
             Fail("expected the end of the document, found more text");
@@ -165,7 +109,7 @@ public:
 
     /// Reads the members of the object `v` by `members`, as ReadRest() does.
     template <size_t N, typename Read>
-    void Object(value v, const Members<N>& members, Read&& read)
+    void Object(value v, const MemberSet<N>& members, Read&& read)
     {
         Rest rest = Open(v);
         ReadRest(rest, members, read);
@@ -194,7 +138,7 @@ public:
     /// path extended by the member's name. Refuses unknown and repeated members and reports the
     /// first missing one.
     template <size_t N, typename Read>
-    void ReadRest(Rest& rest, const Members<N>& members, Read&& read)
+    void ReadRest(Rest& rest, const MemberSet<N>& members, Read&& read)
     {
         uint64_t seen = 0;
         size_t next = 0;
@@ -265,21 +209,10 @@ public:
     template <typename E>
     E Enumeration(value v, E (*convert)(const std::string&, bool&), std::string_view name)
     {
-        // A document repeats the same few texts of an enumeration, and a lookup in the model's
-        // table costs a few hundred instructions: the last text that `convert` accepted on this
-        // thread is remembered.
-        AcceptedText<E>& last = ThreadOwn<AcceptedText<E>>();
         const std::string_view text = String(v);
-        if (last.convert == convert && last.text == text)
-            return last.value;
-        last.convert = nullptr;
-        last.text = text;
-        bool failed = false;
-        const E result = convert(last.text, failed);
-        if (failed)
-            Fail("expected a " + std::string(name) + " text, found \"" + last.text + "\"");
-        last.convert = convert;
-        last.value = result;
+        E result{};
+        if (!ConvertText(text, convert, result))
+            Fail("expected a " + std::string(name) + " text, found \"" + std::string(text) + "\"");
         return result;
     }
 
@@ -303,6 +236,9 @@ public:
     }
 
     [[noreturn]] void Fail(const std::string& expected) const;
+    /// Refuses the text `found` of the tag member `tag` (a "type" or "kind"), which is none of
+    /// `alternatives` (as Alternatives() lists them).
+    [[noreturn]] void FailTag(std::string_view tag, const std::string& alternatives, std::string_view found);
 
     Path& CurrentPath() { return path; }
 
@@ -319,7 +255,8 @@ public:
 private:
     [[noreturn]] void Fail(simdjson::error_code error, std::string_view expected, value* v) const;
     [[noreturn]] void OutOfInt32(int64_t number) const;
-    void CheckSchema(value v);
+    /// The index among the `count` names at `kinds` of the name in the "schema" object `v`.
+    size_t CheckSchema(value v, const std::string_view* kinds, size_t count);
     /// The members of the top-level object.
     Rest OpenRoot();
     /// The value of the first member of `rest`, which must be named `name`; the caller moves past
@@ -333,7 +270,6 @@ private:
     [[noreturn]] void Duplicate(std::string_view key);
     [[noreturn]] void Missing(std::string_view key) const;
 
-    std::string_view schemaName;
     LentWorkspace workspace;
     simdjson::ondemand::document document;
     Path path;

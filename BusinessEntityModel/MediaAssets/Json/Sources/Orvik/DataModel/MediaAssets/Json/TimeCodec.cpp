@@ -1,227 +1,198 @@
 // Time boundaries, bounds and bounds arrays, timecodes, essence rates and timecode tables.
 
 #include "Codecs.h"
+#include "Collections.h"
+#include "FieldTable.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
 namespace {
 
-constexpr auto kBoundaryMembers = MemberNames("timePoint", "isMoving");
-constexpr auto kBoundsMembers = MemberNames("inBoundary", "outBoundary");
-constexpr auto kBoundsArrayMembers = MemberNames("inBoundary", "outBoundary", "elements");
-constexpr auto kRateMembers = MemberNames("numerator", "denominator");
-constexpr auto kTimecodeMembers = MemberNames("rate", "totalSample", "isDrop", "hasDate");
-constexpr auto kTableMembers = MemberNames("fqn", "standard", "type", "timeCodeJumpItems");
-constexpr auto kJumpMembers = MemberNames("timePoint", "timeCode", "duration");
+using namespace Members;
+
+/// An essence rate has no setters: it is built from its two numbers once both are read.
+struct RateParts {
+    int32_t numerator = 0;
+    int32_t denominator = 0;
+};
+
+// clang-format off
+constexpr auto kBoundaryTable = MakeTable(Fields<2, TimeBoundary>{{
+    {kTimePoint,
+     [](Writer& w, const TimeBoundary& boundary) { w.Int(boundary.TimePoint().ToNanoseconds()); },
+     [](Reader& r, value v, TimeBoundary& boundary) { boundary.TimePoint(TimePoint(r.Int64(v))); }},
+    {kIsMoving,
+     [](Writer& w, const TimeBoundary& boundary) { w.Bool(boundary.IsMoving()); },
+     [](Reader& r, value v, TimeBoundary& boundary) { boundary.IsMoving(r.Bool(v)); }},
+}});
+
+/// The two boundaries, first in the tables of bounds and of bounds arrays.
+template <typename B>
+constexpr Fields<2, B> kBoundaryFields{{
+    {kInBoundary,
+     [](Writer& w, const B& bounds) { Write(w, bounds.InBoundary()); },
+     [](Reader& r, value v, B& bounds) { bounds.InBoundary(ReadTimeBoundary(r, v)); }},
+    {kOutBoundary,
+     [](Writer& w, const B& bounds) { Write(w, bounds.OutBoundary()); },
+     [](Reader& r, value v, B& bounds) { bounds.OutBoundary(ReadTimeBoundary(r, v)); }},
+}};
+
+constexpr auto kBoundsTable = MakeTable(kBoundaryFields<TimeBounds>);
+
+constexpr auto kBoundsArrayTable = MakeTable(kBoundaryFields<TimeBoundsArray>, Fields<1, TimeBoundsArray>{{
+    {kElements,
+     [](Writer& w, const TimeBoundsArray& array) {
+         w.Array(array, [&](const TimeBounds& bounds) { Write(w, bounds); });
+     },
+     [](Reader& r, value v, TimeBoundsArray& array) {
+         ReadInDocumentOrder<TimeBounds>(r, v, array, [&](value element) { return ReadTimeBounds(r, element); });
+     }},
+}});
+
+constexpr auto kTimecodeRateTable = MakeTable(Fields<2, TimePoints::Rate>{{
+    {kNumerator,
+     [](Writer& w, const TimePoints::Rate& rate) { w.Int(rate.Numerator()); },
+     [](Reader& r, value v, TimePoints::Rate& rate) { rate.Numerator(r.Int64(v)); }},
+    {kDenominator,
+     [](Writer& w, const TimePoints::Rate& rate) { w.Int(rate.Denominator()); },
+     [](Reader& r, value v, TimePoints::Rate& rate) { rate.Denominator(r.Int64(v)); }},
+}});
+
+constexpr auto kTimecodeTable = MakeTable(Fields<4, Timecode>{{
+    {kRate,
+     [](Writer& w, const Timecode& timecode) { WriteObject(w, kTimecodeRateTable, timecode.Rate()); },
+     [](Reader& r, value v, Timecode& timecode) {
+         TimePoints::Rate rate;
+         ReadObject(r, v, kTimecodeRateTable, rate);
+         timecode.Rate(rate);
+     }},
+    {kTotalSample,
+     [](Writer& w, const Timecode& timecode) { w.Int(timecode.TotalSample()); },
+     [](Reader& r, value v, Timecode& timecode) { timecode.TotalSample(r.Int64(v)); }},
+    {kIsDrop,
+     [](Writer& w, const Timecode& timecode) { w.Bool(timecode.IsDrop()); },
+     [](Reader& r, value v, Timecode& timecode) { timecode.IsDrop(r.Bool(v)); }},
+    {kHasDate,
+     [](Writer& w, const Timecode& timecode) { w.Bool(timecode.HasDate()); },
+     [](Reader& r, value v, Timecode& timecode) { timecode.HasDate(r.Bool(v)); }},
+}});
+
+constexpr auto kRateTable = MakeTable(Fields<2, Rate, RateParts>{{
+    {kNumerator,
+     [](Writer& w, const Rate& rate) { w.Int(rate.Numerator()); },
+     [](Reader& r, value v, RateParts& rate) { rate.numerator = r.Int32(v); }},
+    {kDenominator,
+     [](Writer& w, const Rate& rate) { w.Int(rate.Denominator()); },
+     [](Reader& r, value v, RateParts& rate) { rate.denominator = r.Int32(v); }},
+}});
+
+constexpr auto kJumpTable = MakeTable(Fields<3, TimeCodeJump>{{
+    {kTimePoint,
+     [](Writer& w, const TimeCodeJump& jump) { w.Int(jump.TimePoint().ToNanoseconds()); },
+     [](Reader& r, value v, TimeCodeJump& jump) { jump.TimePoint(TimePoint(r.Int64(v))); }},
+    {kTimeCode,
+     [](Writer& w, const TimeCodeJump& jump) { w.String(jump.TimeCode().Value()); },
+     [](Reader& r, value v, TimeCodeJump& jump) {
+         const std::string text = r.Text(v);
+         if (text.empty())
+             return;
+         try {
+             jump.TimeCode(TimeCodeString(text));
+         } catch (const std::runtime_error&) {
+             r.Fail("expected a timecode text such as \"10:00:00:00\" or \"23:59:59;29\", or \"\", found \"" + text
+                    + "\"");
+         }
+     }},
+    {kDuration,
+     [](Writer& w, const TimeCodeJump& jump) { w.Int(jump.Duration()); },
+     [](Reader& r, value v, TimeCodeJump& jump) { jump.Duration(r.Int64(v)); }},
+}});
+
+constexpr auto kTimeCodeTableTable = MakeTable(Fields<4, TimeCodeTable>{{
+    {kFqn,
+     [](Writer& w, const TimeCodeTable& table) { w.String(table.FullyQualifiedName().Value()); },
+     [](Reader& r, value v, TimeCodeTable& table) { table.FullyQualifiedName(FullyQualifiedName(r.Text(v))); }},
+    {kStandard,
+     [](Writer& w, const TimeCodeTable& table) { w.String(ToString(table.Standard())); },
+     [](Reader& r, value v, TimeCodeTable& table) {
+         table.Standard(r.Enumeration(v, &ToTimeCodeStandard, "TimeCodeStandard"));
+     }},
+    {kType,
+     [](Writer& w, const TimeCodeTable& table) { w.String(table.Type()); },
+     [](Reader& r, value v, TimeCodeTable& table) { table.Type(r.Text(v)); }},
+    {kTimeCodeJumpItems,
+     [](Writer& w, const TimeCodeTable& table) {
+         w.Array(table.TimeCodeJumpItems(), [&](const std::shared_ptr<TimeCodeJump>& jump) {
+             if (!jump)
+                 w.Fail("expected a timecode jump, found a null pointer");
+             WriteObject(w, kJumpTable, *jump);
+         });
+     },
+     [](Reader& r, value v, TimeCodeTable& table) {
+         ReadInDocumentOrder<std::shared_ptr<TimeCodeJump>>(r, v, table.TimeCodeJumpItems(), [&](value element) {
+             auto jump = std::make_shared<TimeCodeJump>();
+             ReadObject(r, element, kJumpTable, *jump);
+             return jump;
+         });
+     }},
+}});
+// clang-format on
 
 }  // namespace
 
-void Write(Writer& w, const TimeBoundary& boundary)
-{
-    w.StartObject();
-    w.Int("timePoint", boundary.TimePoint().ToNanoseconds());
-    w.Bool("isMoving", boundary.IsMoving());
-    w.EndObject();
-}
+void Write(Writer& w, const TimeBoundary& boundary) { WriteObject(w, kBoundaryTable, boundary); }
 
 TimeBoundary ReadTimeBoundary(Reader& r, value v)
 {
     TimeBoundary boundary;
-    r.Object(v, kBoundaryMembers, [&](size_t index, value member) {
-        if (index == 0)
-            boundary.TimePoint(TimePoint(r.Int64(member)));
-        else
-            boundary.IsMoving(r.Bool(member));
-    });
+    ReadObject(r, v, kBoundaryTable, boundary);
     return boundary;
 }
 
-void Write(Writer& w, const TimeBounds& bounds)
-{
-    w.StartObject();
-    w.Member("inBoundary", [&] { Write(w, bounds.InBoundary()); });
-    w.Member("outBoundary", [&] { Write(w, bounds.OutBoundary()); });
-    w.EndObject();
-}
+void Write(Writer& w, const TimeBounds& bounds) { WriteObject(w, kBoundsTable, bounds); }
 
 TimeBounds ReadTimeBounds(Reader& r, value v)
 {
     TimeBounds bounds;
-    r.Object(v, kBoundsMembers, [&](size_t index, value member) {
-        if (index == 0)
-            bounds.InBoundary(ReadTimeBoundary(r, member));
-        else
-            bounds.OutBoundary(ReadTimeBoundary(r, member));
-    });
+    ReadObject(r, v, kBoundsTable, bounds);
     return bounds;
 }
 
-void Write(Writer& w, const TimeBoundsArray& array)
-{
-    w.StartObject();
-    w.Member("inBoundary", [&] { Write(w, array.InBoundary()); });
-    w.Member("outBoundary", [&] { Write(w, array.OutBoundary()); });
-    w.Array("elements", array, [&](const TimeBounds& bounds) { Write(w, bounds); });
-    w.EndObject();
-}
+void Write(Writer& w, const TimeBoundsArray& array) { WriteObject(w, kBoundsArrayTable, array); }
 
-void Read(Reader& r, value v, TimeBoundsArray& array)
-{
-    r.Object(v, kBoundsArrayMembers, [&](size_t index, value member) {
-        switch (index) {
-        case 0:
-            array.InBoundary(ReadTimeBoundary(r, member));
-            break;
-        case 1:
-            array.OutBoundary(ReadTimeBoundary(r, member));
-            break;
-        default: {
-            ReadInDocumentOrder<TimeBounds>(r, member, array, [&](value element) { return ReadTimeBounds(r, element); });
-        }
-        }
-    });
-}
+void Read(Reader& r, value v, TimeBoundsArray& array) { ReadObject(r, v, kBoundsArrayTable, array); }
 
-void Write(Writer& w, const Timecode& timecode)
-{
-    w.StartObject();
-    w.Member("rate", [&] {
-        w.StartObject();
-        w.Int("numerator", timecode.Rate().Numerator());
-        w.Int("denominator", timecode.Rate().Denominator());
-        w.EndObject();
-    });
-    w.Int("totalSample", timecode.TotalSample());
-    w.Bool("isDrop", timecode.IsDrop());
-    w.Bool("hasDate", timecode.HasDate());
-    w.EndObject();
-}
+void Write(Writer& w, const Timecode& timecode) { WriteObject(w, kTimecodeTable, timecode); }
 
 Timecode ReadTimecode(Reader& r, value v)
 {
     Timecode timecode;
-    r.Object(v, kTimecodeMembers, [&](size_t index, value member) {
-        switch (index) {
-        case 0: {
-            TimePoints::Rate rate;
-            r.Object(member, kRateMembers, [&](size_t part, value number) {
-                if (part == 0)
-                    rate.Numerator(r.Int64(number));
-                else
-                    rate.Denominator(r.Int64(number));
-            });
-            timecode.Rate(rate);
-            break;
-        }
-        case 1:
-            timecode.TotalSample(r.Int64(member));
-            break;
-        case 2:
-            timecode.IsDrop(r.Bool(member));
-            break;
-        default:
-            timecode.HasDate(r.Bool(member));
-        }
-    });
+    ReadObject(r, v, kTimecodeTable, timecode);
     return timecode;
 }
 
-void Write(Writer& w, const Rate& rate)
-{
-    w.StartObject();
-    w.Int("numerator", rate.Numerator());
-    w.Int("denominator", rate.Denominator());
-    w.EndObject();
-}
+void Write(Writer& w, const Rate& rate) { WriteObject(w, kRateTable, rate); }
 
 Rate ReadRate(Reader& r, value v)
 {
-    int32_t numerator = 0;
-    int32_t denominator = 0;
-    r.Object(v, kRateMembers, [&](size_t index, value member) {
-        if (index == 0)
-            numerator = r.Int32(member);
-        else
-            denominator = r.Int32(member);
-    });
-    return Rate(numerator, denominator);
+    RateParts parts;
+    ReadObject(r, v, kRateTable, parts);
+    return Rate(parts.numerator, parts.denominator);
 }
 
 void Write(Writer& w, const std::shared_ptr<TimeCodeTable>& table)
 {
     if (!table)
         w.Fail("expected a timecode table, found a null pointer");
-    w.Shared(table.get(), [&] {
-        w.StartObject();
-        w.String("fqn", table->FullyQualifiedName().Value());
-        w.String("standard", ToString(table->Standard()));
-        w.String("type", table->Type());
-        w.Array("timeCodeJumpItems", table->TimeCodeJumpItems(), [&](const std::shared_ptr<TimeCodeJump>& jump) {
-            if (!jump)
-                w.Fail("expected a timecode jump, found a null pointer");
-            w.StartObject();
-            w.Int("timePoint", jump->TimePoint().ToNanoseconds());
-            w.String("timeCode", jump->TimeCode().Value());
-            w.Int("duration", jump->Duration());
-            w.EndObject();
-        });
-        w.EndObject();
-    });
+    w.Shared(table.get(), [&] { WriteObject(w, kTimeCodeTableTable, *table); });
 }
-
-namespace {
-
-std::shared_ptr<TimeCodeJump> ReadJump(Reader& r, value v)
-{
-    auto jump = std::make_shared<TimeCodeJump>();
-    r.Object(v, kJumpMembers, [&](size_t index, value member) {
-        switch (index) {
-        case 0:
-            jump->TimePoint(TimePoint(r.Int64(member)));
-            break;
-        case 1: {
-            const std::string text = r.Text(member);
-            if (text.empty())
-                break;
-            try {
-                jump->TimeCode(TimeCodeString(text));
-            } catch (const std::runtime_error&) {
-                r.Fail("expected a timecode text such as \"10:00:00:00\" or \"23:59:59;29\", or \"\", found \"" + text
-                       + "\"");
-            }
-            break;
-        }
-        default:
-            jump->Duration(r.Int64(member));
-        }
-    });
-    return jump;
-}
-
-}  // namespace
 
 std::shared_ptr<TimeCodeTable> ReadTimeCodeTable(Reader& r, value v)
 {
     if (r.IsString(v))
         return r.Referenced<TimeCodeTable>(v, "a timecode table");
     auto table = std::make_shared<TimeCodeTable>();
-    r.Object(v, kTableMembers, [&](size_t index, value member) {
-        switch (index) {
-        case 0:
-            table->FullyQualifiedName(FullyQualifiedName(r.Text(member)));
-            break;
-        case 1:
-            table->Standard(r.Enumeration(member, &ToTimeCodeStandard, "TimeCodeStandard"));
-            break;
-        case 2:
-            table->Type(r.Text(member));
-            break;
-        default: {
-            ReadInDocumentOrder<std::shared_ptr<TimeCodeJump>>(r, member, table->TimeCodeJumpItems(),
-                                                               [&](value element) { return ReadJump(r, element); });
-        }
-        }
-    });
+    ReadObject(r, v, kTimeCodeTableTable, *table);
     r.Register(table);
     return table;
 }

@@ -1,6 +1,7 @@
 #include "Writer.h"
 
 #include <Orvik/DataModel/MediaAssets/Json/JsonError.h>
+#include <Orvik/DataModel/MediaAssets/Json/Members.h>
 #include <Orvik/DataModel/MediaAssets/Json/SchemaName.h>
 
 #include <rapidjson/prettywriter.h>
@@ -22,11 +23,11 @@ void Writer::StartObject()
     if (schemaWritten)
         return;
     schemaWritten = true;
-    json.Plain("schema");
+    json.Plain(Members::kSchema);
     json.StartObject();
-    json.Plain("name");
+    json.Plain(Members::kName);
     json.Plain(schemaName);
-    json.Plain("version");
+    json.Plain(Members::kVersion);
     json.Int(kSchemaVersion);
     json.EndObject();
 }

@@ -37,46 +37,22 @@ public:
     /// A JSON value that is written as it stands (checked by the caller).
     void Raw(std::string_view jsonText);
 
-    void Int(std::string_view name, int64_t value)
-    {
-        Key(name);
-        json.Int64(value);
-    }
-    void Bool(std::string_view name, bool value)
-    {
-        Key(name);
-        json.Bool(value);
-    }
-    void String(std::string_view name, std::string_view text)
-    {
-        Key(name);
-        const PathSegment segment(path, name);
-        String(text);
-    }
+    void Int(int64_t value) { json.Int64(value); }
+    void Bool(bool value) { json.Bool(value); }
 
-    /// Writes the key, then `write()` with the path extended by it.
-    template <typename Write>
-    void Member(std::string_view name, Write&& write)
-    {
-        Key(name);
-        const PathSegment segment(path, name);
-        write();
-    }
-
-    /// Writes the key and an array of `range`'s elements, each by `write(element)` with the path
-    /// extended by its index.
+    /// An array of `range`'s elements, each by `write(element)` with the path extended by its
+    /// index.
     template <typename Range, typename Write>
-    void Array(std::string_view name, const Range& range, Write&& write)
+    void Array(const Range& range, Write&& write)
     {
-        Member(name, [&] {
-            json.StartArray();
-            size_t index = 0;
-            for (const auto& element : range) {
-                const PathSegment segment(path, index++);
-                write(element);
-            }
-            json.EndArray();
-        });
+        json.StartArray();
+        const PathSegment segment(path, size_t{0});
+        size_t index = 0;
+        for (const auto& element : range) {
+            path.Renumber(index++);
+            write(element);
+        }
+        json.EndArray();
     }
 
     /// The first time `object` is met, remembers the current path and calls `writeInFull()`;

@@ -1,0 +1,158 @@
+// The two operator profiles, built in: the clip they describe, and the full profile's own fields.
+
+#include "Codecs.h"
+#include "FieldTable.h"
+
+namespace Orvik::DataModel::MediaAssets::Json::detail {
+
+namespace {
+
+using namespace Members;
+
+constexpr std::string_view kPelkKind = "PelkOperatorMetadataProfile";
+constexpr std::string_view kAnglesKind = "AnglesPelkOperatorMetadataProfile";
+
+// clang-format off
+/// The clip that both profiles describe, first in both tables.
+template <typename P>
+constexpr Fields<5, P> kClipFields{{
+    {kObjectId,
+     [](Writer& w, const P& profile) { w.Int(profile.ObjectId()); },
+     [](Reader& r, value v, P& profile) { profile.ObjectId(r.Int64(v)); }},
+    {kServerId,
+     [](Writer& w, const P& profile) { w.Int(profile.ServerId().SerialNumber()); },
+     [](Reader& r, value v, P& profile) { profile.ServerId(ZanServerId(r.Int32(v))); }},
+    {kPage,
+     [](Writer& w, const P& profile) { w.Int(profile.Page()); },
+     [](Reader& r, value v, P& profile) { profile.Page(r.Int32(v)); }},
+    {kBank,
+     [](Writer& w, const P& profile) { w.Int(profile.Bank()); },
+     [](Reader& r, value v, P& profile) { profile.Bank(r.Int32(v)); }},
+    {kClip,
+     [](Writer& w, const P& profile) { w.Int(profile.Clip()); },
+     [](Reader& r, value v, P& profile) { profile.Clip(r.Int32(v)); }},
+}};
+
+using Pelk = PelkOperatorMetadataProfile;
+
+constexpr auto kPelkTable = MakeTable(kClipFields<Pelk>, Fields<16, Pelk>{{
+    {kCamera,
+     [](Writer& w, const Pelk& profile) { w.String(CameraText(profile.Camera())); },
+     [](Reader& r, value v, Pelk& profile) {
+         const std::string_view text = r.String(v);
+         char camera = '\0';
+         if (!CameraFromText(text, camera))
+             r.Fail("expected \"\" or one character from U+0001 to U+00FF, found \"" + std::string(text) + "\"");
+         profile.Camera(camera);
+     }},
+    {kUmId,
+     [](Writer& w, const Pelk& profile) { w.String(profile.UmId()); },
+     [](Reader& r, value v, Pelk& profile) { profile.UmId(r.Text(v)); }},
+    {kVarId,
+     [](Writer& w, const Pelk& profile) { w.String(profile.VarId()); },
+     [](Reader& r, value v, Pelk& profile) { profile.VarId(r.Text(v)); }},
+    {kRating,
+     [](Writer& w, const Pelk& profile) { w.Int(profile.Rating()); },
+     [](Reader& r, value v, Pelk& profile) { profile.Rating(r.Int32(v)); }},
+    {kArchiveStatus,
+     [](Writer& w, const Pelk& profile) { w.String(ToString(profile.ArchiveStatus())); },
+     [](Reader& r, value v, Pelk& profile) {
+         profile.ArchiveStatus(r.Enumeration(v, &ToArchiveStatus, "ArchiveStatus"));
+     }},
+    {kUserTimecodeType,
+     [](Writer& w, const Pelk& profile) { w.String(ToString(profile.UserTimecodeType())); },
+     [](Reader& r, value v, Pelk& profile) {
+         profile.UserTimecodeType(r.Enumeration(v, &ToUserTimecodeType, "UserTimecodeType"));
+     }},
+    {kPrimaryTimecode,
+     [](Writer& w, const Pelk& profile) { w.String(ToString(profile.PrimaryTimecode())); },
+     [](Reader& r, value v, Pelk& profile) {
+         profile.PrimaryTimecode(r.Enumeration(v, &ToTimecodePrimary, "TimecodePrimary"));
+     }},
+    {kUserTimecode,
+     [](Writer& w, const Pelk& profile) { Write(w, profile.UserTimecode()); },
+     [](Reader& r, value v, Pelk& profile) { profile.UserTimecode(ReadTimecode(r, v)); }},
+    {kTodTimecode,
+     [](Writer& w, const Pelk& profile) { Write(w, profile.TodTimecode()); },
+     [](Reader& r, value v, Pelk& profile) { profile.TodTimecode(ReadTimecode(r, v)); }},
+    {kIcon,
+     [](Writer& w, const Pelk& profile) { w.String(profile.Icon()); },
+     [](Reader& r, value v, Pelk& profile) { profile.Icon(r.Text(v)); }},
+    {kColor,
+     [](Writer& w, const Pelk& profile) { w.String(Color::ToString(profile.Color())); },
+     [](Reader& r, value v, Pelk& profile) {
+         const std::string text = r.Text(v);
+         uint32_t color = 0;
+         if (!Color::TryParse(text, color))
+             r.Fail("expected a colour \"#AARRGGBB\", found \"" + text + "\"");
+         profile.Color(color);
+     }},
+    {kFillAndKeyType,
+     [](Writer& w, const Pelk& profile) { w.String(ToString(profile.FillAndKeyType())); },
+     [](Reader& r, value v, Pelk& profile) {
+         profile.FillAndKeyType(r.Enumeration(v, &ToFillAndKeyType, "FillAndKeyType"));
+     }},
+    {kFillAndKeyMediaAssetId,
+     [](Writer& w, const Pelk& profile) { w.String(profile.FillAndKeyMediaAssetId().Value()); },
+     [](Reader& r, value v, Pelk& profile) { profile.FillAndKeyMediaAssetId(Identifier(r.Text(v))); }},
+    {kKeywords,
+     [](Writer& w, const Pelk& profile) {
+         w.Array(profile.Keywords(), [&](const Utf8String& keyword) { w.String(keyword); });
+     },
+     [](Reader& r, value v, Pelk& profile) {
+         profile.ClearKeywords();
+         size_t slot = 0;
+         r.Array(v, [&](value keyword) { profile.Keyword(slot++, r.Text(keyword)); });
+     }},
+    {kUserProtected,
+     [](Writer& w, const Pelk& profile) { w.Bool(profile.IsUserProtected()); },
+     [](Reader& r, value v, Pelk& profile) { profile.UserProtected(r.Bool(v)); }},
+    {kPelkUIProtected,
+     [](Writer& w, const Pelk& profile) { w.Bool(profile.IsPelkUiProtected()); },
+     [](Reader& r, value v, Pelk& profile) { profile.PelkUIProtected(r.Bool(v)); }},
+}});
+
+constexpr auto kAnglesTable = MakeTable(kClipFields<AnglesPelkOperatorMetadataProfile>);
+// clang-format on
+
+}  // namespace
+
+void WriteMembers(Writer& w, const PelkOperatorMetadataProfile& profile) { WriteFields(w, kPelkTable, profile); }
+
+void ReadMembers(Reader& r, Reader::Rest& rest, PelkOperatorMetadataProfile& profile)
+{
+    ReadFields(r, rest, kPelkTable, profile);
+}
+
+void WriteMembers(Writer& w, const AnglesPelkOperatorMetadataProfile& profile) { WriteFields(w, kAnglesTable, profile); }
+
+void ReadMembers(Reader& r, Reader::Rest& rest, AnglesPelkOperatorMetadataProfile& profile)
+{
+    ReadFields(r, rest, kAnglesTable, profile);
+}
+
+void WriteOperatorProfile(Writer& w, const MetadataProfile& profile)
+{
+    if (const auto* pelk = dynamic_cast<const PelkOperatorMetadataProfile*>(&profile))
+        WriteTagged(w, kKind, kPelkKind, kPelkTable, *pelk);
+    else if (const auto* angles = dynamic_cast<const AnglesPelkOperatorMetadataProfile*>(&profile))
+        WriteTagged(w, kKind, kAnglesKind, kAnglesTable, *angles);
+    else
+        w.Fail("expected an operator profile of a class with a JSON form, found another class");
+}
+
+std::shared_ptr<MetadataProfile> ReadOperatorProfile(Reader& r, value v)
+{
+    std::shared_ptr<MetadataProfile> result;
+    r.Polymorphic(v, kKind, [&](std::string_view kind, Reader::Rest& rest) {
+        if (kind == kPelkKind)
+            result = ReadInto(r, rest, kPelkTable, std::make_shared<PelkOperatorMetadataProfile>());
+        else if (kind == kAnglesKind)
+            result = ReadInto(r, rest, kAnglesTable, std::make_shared<AnglesPelkOperatorMetadataProfile>());
+        else
+            r.FailTag(kKind, Alternatives({kPelkKind, kAnglesKind}), kind);
+    });
+    return result;
+}
+
+}  // namespace Orvik::DataModel::MediaAssets::Json::detail
