@@ -1,7 +1,16 @@
 // Metadata profiles and the dictionary that files them by name.
 
 #include "Bindings.h"
+#include "References.h"
+#include "Repr.h"
+#include "TextCasters.h"
 
+#include <Orvik/DataModel/MediaAssets.h>
+
+#include <pybind11/stl.h>
+
+#include <cstddef>
+#include <memory>
 #include <stdexcept>
 
 namespace Orvik::Python {

@@ -1,9 +1,16 @@
 // The first difference between two objects of the model, where operator== says they differ.
 
 #include "Bindings.h"
+#include "CommonMembers.h"
+#include "Repr.h"
 
+#include <Orvik/DataModel/MediaAssets.h>
 #include <Orvik/DataModel/MediaAssets/Difference.h>
 #include <Orvik/DataModel/MediaAssets/FirstDifference.h>
+
+#include <pybind11/stl.h>
+
+#include <string>
 
 namespace Orvik::Python {
 namespace {

@@ -1,6 +1,9 @@
 // The closed vocabularies of the model, each with its canonical texts.
 
 #include "Bindings.h"
+#include "EnumerationBinder.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
 
 namespace Orvik::Python {
 

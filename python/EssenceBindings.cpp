@@ -1,6 +1,18 @@
 // Essences (audio, video, data) with their rates, channels and timecode tables.
 
 #include "Bindings.h"
+#include "CommonMembers.h"
+#include "Containers.h"
+#include "EnumerationBinder.h"
+#include "ImplicitConversions.h"
+#include "OwningArrays.h"
+#include "Properties.h"
+#include "Repr.h"
+#include "TextCasters.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
+
+#include <pybind11/stl.h>
 
 namespace Orvik::Python {
 namespace {

@@ -1,8 +1,18 @@
 // Clip identifiers, video-server identities and packed colours, with their text forms.
 
 #include "Bindings.h"
+#include "CameraArgument.h"
+#include "CommonMembers.h"
+#include "ImplicitConversions.h"
+#include "Properties.h"
+#include "Repr.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
+
+#include <pybind11/stl.h>
 
 #include <optional>
+#include <string>
 #include <tuple>
 
 namespace Orvik::Python {
@@ -13,15 +23,6 @@ using MA::PelkId;
 using MA::ZanServerId;
 
 }  // namespace
-
-std::string CameraText(char camera) { return camera == '\0' ? std::string() : std::string(1, camera); }
-
-char CameraFromText(const std::string& text)
-{
-    if (text.size() > 1)
-        throw py::value_error("a camera is one character, or '' for none; got " + Quoted(text));
-    return text.empty() ? '\0' : text.front();
-}
 
 void BindIdentifiers(py::module_& module)
 {
@@ -57,14 +58,14 @@ void BindIdentifiers(py::module_& module)
                               "('' for none) and optionally the server. Fields are stored in 8 bits unchecked; "
                               "is_valid() tells. str() is the long form (\"123B/120\").");
     pelkId.def(py::init<>())
-        .def(py::init([](int position, const std::string& camera) { return PelkId(position, CameraFromText(camera)); }),
+        .def(py::init([](int position, const std::string& camera) { return PelkId(position, CameraArgument(camera)); }),
              py::arg("position"), py::arg("camera") = "")
         .def(py::init([](int page, int bank, int row, const std::string& camera) {
-                 return PelkId(ZanServerId(), page, bank, row, CameraFromText(camera));
+                 return PelkId(ZanServerId(), page, bank, row, CameraArgument(camera));
              }),
              py::arg("page"), py::arg("bank"), py::arg("row"), py::arg("camera") = "")
         .def(py::init([](const ZanServerId& server, int page, int bank, int row, const std::string& camera) {
-                 return PelkId(server, page, bank, row, CameraFromText(camera));
+                 return PelkId(server, page, bank, row, CameraArgument(camera));
              }),
              py::arg("server_id"), py::arg("page"), py::arg("bank"), py::arg("row"), py::arg("camera") = "")
         .def(py::init<const std::string&>(), py::arg("text"), "PelkId.from_uri(text).")
@@ -76,8 +77,8 @@ void BindIdentifiers(py::module_& module)
         .ORVIK_PROPERTY(PelkId, "row", Row)
         .ORVIK_PROPERTY(PelkId, "position", Position)
         .def_property(
-            "camera", [](const PelkId& self) { return CameraText(self.Camera()); },
-            [](PelkId& self, const std::string& camera) { self.Camera(CameraFromText(camera)); })
+            "camera", [](const PelkId& self) { return MA::CameraText(self.Camera()); },
+            [](PelkId& self, const std::string& camera) { self.Camera(CameraArgument(camera)); })
         .ORVIK_READONLY(PelkId, "has_camera", HasCamera)
         .ORVIK_READONLY(PelkId, "clip", Clip)
         .ORVIK_READONLY(PelkId, "channel", Channel)
@@ -88,7 +89,7 @@ void BindIdentifiers(py::module_& module)
         .def_static("is_valid_bank", &PelkId::IsValidBank)
         .def_static("is_valid_row", &PelkId::IsValidRow)
         .def_static("is_valid_camera",
-                    [](const std::string& camera) { return PelkId::IsValidCamera(CameraFromText(camera)); })
+                    [](const std::string& camera) { return PelkId::IsValidCamera(CameraArgument(camera)); })
         .def("to_short_string", &PelkId::ToShortString)
         .def("__str__", &PelkId::ToString)
         .def("__repr__", [](const PelkId& self) { return "PelkId(" + Quoted(self.ToString()) + ")"; })

@@ -1,10 +1,18 @@
 // The JSON form of assets, resources, streams, groups and operator profiles.
 
-#include "Bindings.h"
+#include "Aliases.h"
+#include "ExceptionClass.h"
 
 #include <Orvik/DataModel/MediaAssets/Json.h>
 
+#include <pybind11/pybind11.h>
+
+#include <cstddef>
+#include <memory>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <variant>
 
 namespace Orvik::Python {
 namespace {
@@ -22,24 +30,52 @@ void DefineToJson(py::module_& module)
         "be written.");
 }
 
-/// The object a document describes, read as `schema` names it.
-py::object Read(const std::string& schema, std::string_view document)
+/// The Python class of an object that a document describes: the group's, for a group's pointer.
+template <typename T>
+struct ClassOf {
+    using type = T;
+};
+template <typename T>
+struct ClassOf<std::shared_ptr<T>> {
+    using type = T;
+};
+
+template <std::size_t Index>
+using Kind = std::variant_alternative_t<Index, Json::AnyDocument>;
+
+template <std::size_t Index>
+std::string KindName()
 {
-    if (schema == "MediaAsset")
-        return py::cast(Json::FromJson<MediaAsset>(document));
-    if (schema == "MediaResource")
-        return py::cast(Json::FromJson<MediaResource>(document));
-    if (schema == "Stream")
-        return py::cast(Json::FromJson<Stream>(document));
-    if (schema == "MediaAssetGroup" || schema == "AnglesMediaAssetGroup")
-        return py::cast(Json::FromJson<std::shared_ptr<MediaAssetGroup>>(document));
-    if (schema == "PelkOperatorMetadataProfile")
-        return py::cast(Json::FromJson<PelkOperatorMetadataProfile>(document));
-    if (schema == "AnglesPelkOperatorMetadataProfile")
-        return py::cast(Json::FromJson<AnglesPelkOperatorMetadataProfile>(document));
-    throw py::type_error("from_json reads MediaAsset, MediaResource, Stream, MediaAssetGroup, "
-                         "PelkOperatorMetadataProfile or AnglesPelkOperatorMetadataProfile documents, not "
-                         + schema);
+    return py::type::of<typename ClassOf<Kind<Index>>::type>().attr("__name__").template cast<std::string>();
+}
+
+/// "MediaAsset, ..., Stream or AnglesPelkOperatorMetadataProfile": the classes that documents describe.
+template <std::size_t... Index>
+std::string KindNames(std::index_sequence<Index...>)
+{
+    std::string names;
+    ((names += (Index == 0 ? "" : Index + 1 == sizeof...(Index) ? " or " : ", ") + KindName<Index>()), ...);
+    return names;
+}
+
+/// The object a document describes, read as the first kind from `Index` on whose class is `cls`
+/// or a base of it (so that AnglesMediaAssetGroup reads a group).
+template <std::size_t Index = 0>
+py::object ReadAs(const py::object& cls, std::string_view document)
+{
+    constexpr std::size_t kKinds = std::variant_size_v<Json::AnyDocument>;
+    if constexpr (Index == kKinds) {
+        throw py::type_error("from_json reads " + KindNames(std::make_index_sequence<kKinds>()) + " documents, not "
+                             + py::str(cls.attr("__name__")).cast<std::string>());
+    } else {
+        const py::handle kind = py::type::of<typename ClassOf<Kind<Index>>::type>();
+        const int derived = PyObject_IsSubclass(cls.ptr(), kind.ptr());
+        if (derived < 0)
+            throw py::error_already_set();
+        if (derived == 1)
+            return py::cast(Json::FromJson<Kind<Index>>(document));
+        return ReadAs<Index + 1>(cls, document);
+    }
 }
 
 }  // namespace
@@ -52,20 +88,7 @@ void BindJson(py::module_& module)
         .value("Compact", Json::Layout::Compact)
         .value("Indented", Json::Layout::Indented);
 
-    // Released: the class lives as long as the interpreter, past the module's static destructors.
-    static const py::handle jsonError = py::exception<Json::JsonError>(module, "JsonError", PyExc_ValueError).release();
-    // Set on every instance that the module raises; one raised by Python code reads "".
-    jsonError.attr("path") = "";
-    py::register_exception_translator([](std::exception_ptr pending) {
-        try {
-            if (pending)
-                std::rethrow_exception(pending);
-        } catch (const Json::JsonError& error) {
-            py::object instance = py::reinterpret_borrow<py::object>(jsonError)(error.what());
-            instance.attr("path") = error.Path();
-            PyErr_SetObject(jsonError.ptr(), instance.ptr());
-        }
-    });
+    DefineExceptionClass<Json::JsonError, 1>(module, "JsonError", {{{"path", &Json::JsonError::Path}}});
 
     DefineToJson<MediaAsset>(module);
     DefineToJson<MediaResource>(module);
@@ -77,9 +100,10 @@ void BindJson(py::module_& module)
     module.def(
         "from_json",
         [](std::string_view document, const py::object& cls) {
-            const std::string schema =
-                cls.is_none() ? Json::SchemaName(document) : py::str(cls.attr("__name__")).cast<std::string>();
-            return Read(schema, document);
+            if (!cls.is_none())
+                return ReadAs(cls, document);
+            Json::AnyDocument read = Json::FromAnyJson(document);
+            return std::visit([](auto& held) { return py::cast(std::move(held)); }, read);
         },
         py::arg("document"), py::arg("cls") = py::none(),
         "The object a document describes, of the class `cls` or, without it, of the class the document's schema "

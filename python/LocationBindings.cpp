@@ -2,6 +2,16 @@
 // protected storage items.
 
 #include "Bindings.h"
+#include "CommonMembers.h"
+#include "EnumerationBinder.h"
+#include "OwningArrays.h"
+#include "Properties.h"
+#include "Repr.h"
+#include "TextCasters.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
+
+#include <pybind11/stl.h>
 
 namespace Orvik::Python {
 namespace {

@@ -1,6 +1,18 @@
 // The operator metadata profiles filed under "orvik.pelkoperator".
 
 #include "Bindings.h"
+#include "CameraArgument.h"
+#include "CommonMembers.h"
+#include "Properties.h"
+#include "Repr.h"
+#include "TextCasters.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
+
+#include <pybind11/stl.h>
+
+#include <memory>
+#include <string>
 
 namespace Orvik::Python {
 namespace {
@@ -41,7 +53,7 @@ void BindOperatorMetadata(py::module_& module)
         .ORVIK_PROPERTY(Profile, "row", Row)
         .def_property(
             "camera", [](const Profile& self) { return CameraText(self.Camera()); },
-            [](Profile& self, const std::string& camera) { self.Camera(CameraFromText(camera)); })
+            [](Profile& self, const std::string& camera) { self.Camera(CameraArgument(camera)); })
         .ORVIK_READONLY(Profile, "has_camera", HasCamera)
         .ORVIK_READONLY(Profile, "pelk_id", PelkId)
         .ORVIK_PROPERTY(Profile, "um_id", UmId)

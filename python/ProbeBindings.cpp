@@ -1,10 +1,15 @@
 // The media probe: a media file described as an asset, with the warnings of what could not be
 // mapped.
 
-#include "Bindings.h"
+#include "Aliases.h"
+#include "ExceptionClass.h"
+#include "Repr.h"
 
 #include <Orvik/DataModel/MediaAssets/Probe.h>
 
+#include <pybind11/stl.h>
+
+#include <array>
 #include <string>
 #include <utility>
 
@@ -28,22 +33,8 @@ void BindProbe(py::module_& module)
                 + ", " + Quoted(self.message) + ")";
         });
 
-    // Released: the class lives as long as the interpreter, past the module's static destructors.
-    static const py::handle probeError = py::exception<Probe::ProbeError>(module, "ProbeError", PyExc_ValueError).release();
-    // Set on every instance that the module raises; one raised by Python code reads "".
-    probeError.attr("source") = "";
-    probeError.attr("reason") = "";
-    py::register_exception_translator([](std::exception_ptr pending) {
-        try {
-            if (pending)
-                std::rethrow_exception(pending);
-        } catch (const Probe::ProbeError& error) {
-            py::object instance = py::reinterpret_borrow<py::object>(probeError)(error.what());
-            instance.attr("source") = error.Source();
-            instance.attr("reason") = error.Reason();
-            PyErr_SetObject(probeError.ptr(), instance.ptr());
-        }
-    });
+    DefineExceptionClass<Probe::ProbeError, 2>(
+        module, "ProbeError", {{{"source", &Probe::ProbeError::Source}, {"reason", &Probe::ProbeError::Reason}}});
 
     module.def(
         "probe",

@@ -1,6 +1,16 @@
 // Streams, media resources, their references and the time bounds arrays they carry.
 
 #include "Bindings.h"
+#include "CommonMembers.h"
+#include "Containers.h"
+#include "Properties.h"
+#include "References.h"
+#include "Repr.h"
+#include "TextCasters.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
+
+#include <pybind11/stl.h>
 
 namespace Orvik::Python {
 namespace {

@@ -4,6 +4,8 @@
 
 #include "Bindings.h"
 
+#include <pybind11/stl.h>
+
 #include <Orvik/TimePoints/Core/Formatters/ClockDurationFormatter.h>
 #include <Orvik/TimePoints/Core/Formatters/Iso8601TimePointFormatter.h>
 #include <Orvik/TimePoints/Core/Formatters/SmpteTimeCodeFormatter.h>
@@ -12,6 +14,7 @@
 #include <Orvik/TimePoints/Core/Parsers/SmpteTimeCodeParser.h>
 
 #include <optional>
+#include <string>
 
 namespace Orvik::Python {
 namespace {

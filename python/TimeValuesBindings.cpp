@@ -2,7 +2,11 @@
 // They are values: reading one from an object gives a copy.
 
 #include "Bindings.h"
+#include "CommonMembers.h"
+#include "Properties.h"
+#include "Repr.h"
 
+#include <Orvik/DataModel/MediaAssets.h>
 #include <Orvik/TimePoints/Core/RatedTimePoint.h>
 
 namespace Orvik::Python {

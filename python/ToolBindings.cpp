@@ -1,11 +1,18 @@
 // What `orvik-asset show` prints, from the tool's own code: the same tree for the same document.
 
-#include "Bindings.h"
+#include "Aliases.h"
 
 #include <Document.h>
 #include <TreePrinter.h>
 
+#include <Orvik/DataModel/MediaAssets/MediaAsset.h>
+#include <Orvik/DataModel/MediaAssets/MediaAssetGroup.h>
+
+#include <pybind11/pybind11.h>
+
+#include <memory>
 #include <sstream>
+#include <string>
 #include <string_view>
 
 namespace Orvik::Python {

@@ -1,6 +1,15 @@
 // Tracks with their channels, and the layouts that arrange them.
 
 #include "Bindings.h"
+#include "CommonMembers.h"
+#include "Containers.h"
+#include "Properties.h"
+#include "Repr.h"
+#include "TextCasters.h"
+
+#include <Orvik/DataModel/MediaAssets.h>
+
+#include <pybind11/stl.h>
 
 namespace Orvik::Python {
 namespace {

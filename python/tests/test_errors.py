@@ -26,6 +26,10 @@ def not_an_angles_item():
 ERRORS = [
     # (what is done, exception type, the library's text)
     (lambda: orvik.PelkId.from_uri("103A"), ValueError, "Invalid uri '103A'."),
+    # A camera is one code point up to U+00FF, the byte that the model stores.
+    (lambda: orvik.PelkId(123, "AB"), ValueError, "a camera is one character, or '' for none; got 'AB'"),
+    (lambda: orvik.PelkOperatorMetadataProfile().__setattr__("camera", "\u0100"), ValueError,
+     "a camera is one character, or '' for none; got '\u0100'"),
     # 2**31 reaches the library as it is, not cut to 32 bits.
     (lambda: orvik.PelkOperatorMetadataProfile().set_keyword(2**31, "x"), ValueError,
      "Negative keyword index 2147483648."),

@@ -65,6 +65,14 @@ def test_members_read_from_an_object_are_the_members(asset):
     assert asset.metadata["orvik.pelkoperator"].rating == 4
 
 
+def test_cameras_read_back_as_set_up_to_u00ff():
+    profile = orvik.PelkOperatorMetadataProfile()
+    for camera in ["", "A", "M", "\x7f", "\xe9", "\xff"]:
+        profile.camera = camera
+        assert (profile.camera, profile.has_camera) == (camera, camera != "")
+    assert orvik.PelkId(123, "\xe9").camera == "\xe9"
+
+
 def test_sorted_vectors_keep_order_and_refuse_equal_elements():
     tracks = orvik.TrackVector([orvik.Track("b"), orvik.Track("a")])
     assert [track.id for track in tracks] == ["a", "b"]
