@@ -2,7 +2,6 @@
 // that `validate` finds. What the documents in tests/data reach is checked by the tool's runs on
 // them (tests/tool/expected); these are the cases that no document holds.
 
-#include "JsonPointer.h"
 #include "ShowTree.h"
 #include "TimeText.h"
 #include "TreePrinter.h"
@@ -174,13 +173,6 @@ TEST(AssetTool, ArbitraryObjectsShowWithoutControlCharactersAndValidateWithPoint
             ASSERT_FALSE(problem.message.empty()) << problem.path;
         }
     }
-}
-
-TEST(JsonPointer, EscapesTildeAndSlashInMemberNames)
-{
-    const auto pointer = Orvik::AssetTool::JsonPointer() / "metadata" / "a/b~c" / 3;
-    EXPECT_EQ(pointer.Text(), "/metadata/a~1b~0c/3");
-    EXPECT_EQ(Orvik::AssetTool::JsonPointer().Text(), "");
 }
 
 }  // namespace

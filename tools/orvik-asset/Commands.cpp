@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <memory>
 #include <stdexcept>
+#include <string>
 
 namespace Orvik::AssetTool {
 
@@ -32,14 +33,6 @@ public:
 std::string Located(const std::string& file, const std::string& pointer, const std::string& what)
 {
     return InputName(file) + ": " + (pointer.empty() ? "" : pointer + ": ") + what;
-}
-
-/// What a JsonError says was expected: its message without the pointer that it starts with.
-std::string Expected(const JsonError& error)
-{
-    const std::string message = error.what();
-    const std::string prefix = error.Path() + ": ";
-    return message.compare(0, prefix.size(), prefix) == 0 ? message.substr(prefix.size()) : message;
 }
 
 /// The asset that the media file `file` (or, for "-", the media bytes `text`) describes; its
@@ -65,7 +58,8 @@ Document Load(const std::string& file, Streams& streams)
     try {
         return Document::Read(text);
     } catch (const JsonError& error) {
-        throw UnreadableDocument(Located(file, error.Path(), Expected(error)));
+        // The message is already "pointer: what was expected" ("(root)" for the whole document).
+        throw UnreadableDocument(InputName(file) + ": " + error.what());
     } catch (const DocumentError& error) {
         throw UnreadableDocument(Located(file, "", error.what()));
     }
@@ -169,8 +163,8 @@ int RunDiff(const std::string& left, const std::string& right, Streams& streams)
     const Document a = Load(left, streams);
     const Document b = Load(right, streams);
     if (a.IsGroup() != b.IsGroup())
-        throw UnreadableDocument(InputName(left) + " holds a " + a.SchemaName() + " and " + InputName(right) + " a "
-                                 + b.SchemaName() + ": only documents of one kind can be compared");
+        throw UnreadableDocument(InputName(left) + " holds a " + std::string(a.SchemaName()) + " and " + InputName(right)
+                                 + " a " + std::string(b.SchemaName()) + ": only documents of one kind can be compared");
     const auto difference = a.FirstDifference(b);
     if (!difference) {
         streams.out << (a.IsGroup() ? "The groups are equal.\n" : "The assets are equal.\n");

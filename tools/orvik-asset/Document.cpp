@@ -6,6 +6,7 @@
 #include <Orvik/DataModel/MediaAssets/FirstDifference.h>
 #include <Orvik/DataModel/MediaAssets/Json.h>
 
+#include <type_traits>
 #include <utility>
 
 namespace Orvik::AssetTool {
@@ -13,9 +14,6 @@ namespace Orvik::AssetTool {
 using namespace DataModel::MediaAssets;
 
 namespace {
-
-constexpr char kAssetSchema[] = "MediaAsset";
-constexpr char kGroupSchema[] = "MediaAssetGroup";
 
 using GroupPointer = std::shared_ptr<MediaAssetGroup>;
 
@@ -35,18 +33,22 @@ Document::Document(GroupPointer group) : content(std::move(group)) {}
 
 Document Document::Read(std::string_view text)
 {
-    const std::string schema = Json::SchemaName(text);
-    if (schema == kAssetSchema)
-        return Document(Json::FromJson<MediaAsset>(text));
-    if (schema == kGroupSchema)
-        return Document(Json::FromJson<GroupPointer>(text));
-    throw DocumentError("expected the schema \"" + std::string(kAssetSchema) + "\" or \"" + kGroupSchema + "\", found \""
-                        + schema + "\"");
+    Json::AnyDocument read = Json::FromAnyJson(text);
+    if (auto* asset = std::get_if<MediaAsset>(&read))
+        return Document(std::move(*asset));
+    if (auto* group = std::get_if<GroupPointer>(&read))
+        return Document(std::move(*group));
+    throw DocumentError("expected the schema \"" + std::string(Json::SchemaNameOf<MediaAsset>()) + "\" or \""
+                        + std::string(Json::SchemaNameOf<GroupPointer>()) + "\", found \""
+                        + std::string(Json::SchemaNameOf(read)) + "\"");
 }
 
 bool Document::IsGroup() const { return std::holds_alternative<GroupPointer>(content); }
 
-const char* Document::SchemaName() const { return IsGroup() ? kGroupSchema : kAssetSchema; }
+std::string_view Document::SchemaName() const
+{
+    return std::visit([](const auto& held) { return Json::SchemaNameOf<std::decay_t<decltype(held)>>(); }, content);
+}
 
 std::string Document::Json() const
 {

@@ -32,7 +32,7 @@ public:
     bool IsGroup() const;
 
     /// "MediaAsset" or "MediaAssetGroup", as the document's schema names it.
-    const char* SchemaName() const;
+    std::string_view SchemaName() const;
 
     /// The canonical document: indented JSON, ending with a newline.
     std::string Json() const;

@@ -114,7 +114,7 @@ std::vector<Span> ClipSpans(int32_t page, int32_t bank, int32_t clip, char camer
         return {Span{PelkId(page, bank, clip, camera).ToShortString(), Tone::Id}};
     std::string text = "page " + std::to_string(page) + ", bank " + std::to_string(bank) + ", clip " + std::to_string(clip);
     if (camera != '\0')
-        text += ", camera " + std::string(1, camera);
+        text += ", camera " + CameraText(camera);
     return {Text(text)};
 }
 

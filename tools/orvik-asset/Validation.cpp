@@ -1,9 +1,10 @@
 #include "Validation.h"
 
-#include "JsonPointer.h"
 #include "TimeText.h"
 
 #include <Orvik/DataModel/MediaAssets.h>
+#include <Orvik/DataModel/MediaAssets/Json/JsonPointer.h>
+#include <Orvik/DataModel/MediaAssets/Json/Members.h>
 #include <Orvik/TimePoints/Core/Formatters/SmpteTimeCodeFormatter.h>
 
 #include <map>
@@ -16,6 +17,8 @@
 namespace Orvik::AssetTool {
 
 using namespace DataModel::MediaAssets;
+using DataModel::MediaAssets::Json::JsonPointer;
+namespace Members = DataModel::MediaAssets::Json::Members;
 
 namespace {
 
@@ -57,31 +60,31 @@ public:
         // In the order of the document, which writes the resources (and the streams that track
         // channels share with them) before the tracks.
         const AssetContext context = ContextOf(asset);
-        CheckTimeBounds(asset.PhysicalTimebounds(), at / "physicalTimebounds");
-        CheckMetadata(asset.Metadata(), at / "metadata");
+        CheckTimeBounds(asset.PhysicalTimebounds(), at / Members::kPhysicalTimebounds);
+        CheckMetadata(asset.Metadata(), at / Members::kMetadata);
         size_t index = 0;
         for (const MediaResourceReference& resource : asset.MediaResources()) {
             if (resource.Pointer())
-                CheckResource(*resource.Pointer(), context, at / "mediaResources" / index / "pointer");
+                CheckResource(*resource.Pointer(), context, at / Members::kMediaResources / index / Members::kPointer);
             ++index;
         }
-        CheckTracks(context, at / "tracks");
-        CheckLayouts(context, at / "trackLayouts");
+        CheckTracks(context, at / Members::kTracks);
+        CheckLayouts(context, at / Members::kTrackLayouts);
         index = 0;
         for (const auto& annotation : asset.Annotations()) {
             if (annotation)
-                CheckMetadata(annotation->Metadata(), at / "annotations" / index / "metadata");
+                CheckMetadata(annotation->Metadata(), at / Members::kAnnotations / index / Members::kMetadata);
             ++index;
         }
     }
 
     void CheckGroup(const MediaAssetGroup& group, const JsonPointer& at)
     {
-        CheckMetadata(group.Metadata(), at / "metadata");
+        CheckMetadata(group.Metadata(), at / Members::kMetadata);
         size_t index = 0;
         for (const auto& item : group.Items()) {
             if (item && item->MediaAsset().Id().IsEmpty())
-                Add(at / "items" / index / "mediaAsset", "the item refers to no asset");
+                Add(at / Members::kItems / index / Members::kMediaAsset, "the item refers to no asset");
             ++index;
         }
     }
@@ -96,13 +99,13 @@ private:
         if (bounds.HasOverlappingTimeBounds())
             Add(at, "stretches overlap");
         if (!bounds.IsInValid())
-            Add(at / "inBoundary",
+            Add(at / Members::kInBoundary,
                 "the in boundary " + BoundaryText(bounds.InBoundary()) + " is not before the out boundary "
                     + BoundaryText(bounds.OutBoundary()));
         if (bounds.IsInOutOfTimeBounds())
-            Add(at / "inBoundary", "the in boundary " + BoundaryText(bounds.InBoundary()) + " lies in no stretch");
+            Add(at / Members::kInBoundary, "the in boundary " + BoundaryText(bounds.InBoundary()) + " lies in no stretch");
         if (bounds.IsOutOutOfTimeBounds())
-            Add(at / "outBoundary",
+            Add(at / Members::kOutBoundary,
                 "the out boundary " + BoundaryText(bounds.OutBoundary())
                     + " lies in no stretch (a stretch holds its in point, not its out point)");
     }
@@ -115,13 +118,14 @@ private:
             if (const auto* full = dynamic_cast<const PelkOperatorMetadataProfile*>(&profile)) {
                 CheckClip(full->Page(), full->Bank(), full->Clip(), profileAt);
                 if (full->HasCamera() && !PelkId::IsValidCamera(full->Camera()))
-                    Add(profileAt / "camera", "camera '" + std::string(1, full->Camera()) + "' is not 'A' to 'L'");
-                CheckProfileServer(full->ServerId(), profileAt / "serverId");
-                CheckTimecode(full->UserTimecode(), profileAt / "userTimecode");
-                CheckTimecode(full->TodTimecode(), profileAt / "todTimecode");
+                    Add(profileAt / Members::kCamera,
+                        "camera '" + CameraText(full->Camera()) + "' is not " + ValidCamerasText());
+                CheckProfileServer(full->ServerId(), profileAt / Members::kServerId);
+                CheckTimecode(full->UserTimecode(), profileAt / Members::kUserTimecode);
+                CheckTimecode(full->TodTimecode(), profileAt / Members::kTodTimecode);
             } else if (const auto* angles = dynamic_cast<const AnglesPelkOperatorMetadataProfile*>(&profile)) {
                 CheckClip(angles->Page(), angles->Bank(), angles->Clip(), profileAt);
-                CheckProfileServer(angles->ServerId(), profileAt / "serverId");
+                CheckProfileServer(angles->ServerId(), profileAt / Members::kServerId);
             }
         }
     }
@@ -129,11 +133,14 @@ private:
     void CheckClip(int32_t page, int32_t bank, int32_t clip, const JsonPointer& at)
     {
         if (!PelkId::IsValidPage(page))
-            Add(at / "page", "page " + std::to_string(page) + " is not " + RangeText(PelkId::MinPage, PelkId::MaxPage));
+            Add(at / Members::kPage,
+                "page " + std::to_string(page) + " is not " + RangeText(PelkId::MinPage, PelkId::MaxPage));
         if (!PelkId::IsValidBank(bank))
-            Add(at / "bank", "bank " + std::to_string(bank) + " is not " + RangeText(PelkId::MinBank, PelkId::MaxBank));
+            Add(at / Members::kBank,
+                "bank " + std::to_string(bank) + " is not " + RangeText(PelkId::MinBank, PelkId::MaxBank));
         if (!PelkId::IsValidRow(clip))
-            Add(at / "clip", "clip " + std::to_string(clip) + " is not " + RangeText(PelkId::MinRow, PelkId::MaxRow));
+            Add(at / Members::kClip,
+                "clip " + std::to_string(clip) + " is not " + RangeText(PelkId::MinRow, PelkId::MaxRow));
     }
 
     /// In a profile, serial number 0 means that the clip has no server.
@@ -180,10 +187,10 @@ private:
         size_t index = 0;
         for (const auto& track : context.asset.Tracks()) {
             const JsonPointer trackAt = at / index++;
-            CheckId(seen, track->Id().Value(), trackAt, trackAt / "id", "track id");
+            CheckId(seen, track->Id().Value(), trackAt, trackAt / Members::kId, "track id");
             size_t channelIndex = 0;
             for (const auto& channel : track->Channels()) {
-                const JsonPointer streamAt = trackAt / "channels" / channelIndex++ / "stream" / "id";
+                const JsonPointer streamAt = trackAt / Members::kChannels / channelIndex++ / Members::kStream / Members::kId;
                 const std::string& streamId = channel->Stream().Id().Value();
                 if (streamId.empty())
                     Add(streamAt, "the channel names no stream");
@@ -199,13 +206,13 @@ private:
         size_t index = 0;
         for (const auto& layout : context.asset.TrackLayouts()) {
             const JsonPointer layoutAt = at / index++;
-            CheckId(seenLayouts, layout->Id().Value(), layoutAt, layoutAt / "id", "layout id");
+            CheckId(seenLayouts, layout->Id().Value(), layoutAt, layoutAt / Members::kId, "layout id");
             SeenIds seenItems;
             size_t itemIndex = 0;
             for (const TrackLayoutItem& item : layout->TrackLayoutItems()) {
-                const JsonPointer itemAt = layoutAt / "trackLayoutItems" / itemIndex++;
-                CheckId(seenItems, item.Id().Value(), itemAt, itemAt / "id", "item id");
-                CheckItemTracks(item, context, itemAt / "tracks");
+                const JsonPointer itemAt = layoutAt / Members::kTrackLayoutItems / itemIndex++;
+                CheckId(seenItems, item.Id().Value(), itemAt, itemAt / Members::kId, "item id");
+                CheckItemTracks(item, context, itemAt / Members::kTracks);
             }
         }
     }
@@ -237,37 +244,38 @@ private:
         for (const StreamReference& stream : resource.Streams()) {
             // A stream that two resources share is written, and checked, once.
             if (stream.Pointer() && checkedStreams.insert(stream.Pointer().get()).second)
-                CheckStream(*stream.Pointer(), context, at / "streams" / index / "pointer");
+                CheckStream(*stream.Pointer(), context, at / Members::kStreams / index / Members::kPointer);
             ++index;
         }
-        CheckTimeBounds(resource.Timebounds(), at / "timebounds");
-        CheckMetadata(resource.Metadata(), at / "metadata");
+        CheckTimeBounds(resource.Timebounds(), at / Members::kTimebounds);
+        CheckMetadata(resource.Metadata(), at / Members::kMetadata);
     }
 
     void CheckStream(const Stream& stream, const AssetContext& context, const JsonPointer& at)
     {
-        CheckTimeBounds(stream.Timebounds(), at / "timebounds");
-        CheckMetadata(stream.Metadata(), at / "metadata");
+        CheckTimeBounds(stream.Timebounds(), at / Members::kTimebounds);
+        CheckMetadata(stream.Metadata(), at / Members::kMetadata);
         size_t index = 0;
         for (const auto& essence : stream.Essences())
-            CheckEssence(*essence, context, at / "essences" / index++);
+            CheckEssence(*essence, context, at / Members::kEssences / index++);
         index = 0;
         for (const auto& location : stream.Locations()) {
             if (location->GetType() == Location::ZanLocation)
                 CheckSerialNumber(static_cast<const ZanLocation&>(*location).ServerId(),
-                                  at / "locations" / index / "serverId");
+                                  at / Members::kLocations / index / Members::kServerId);
             ++index;
         }
     }
 
     void CheckEssence(const Essence& essence, const AssetContext& context, const JsonPointer& at)
     {
-        CheckMetadata(essence.Metadata(), at / "metadata");
+        CheckMetadata(essence.Metadata(), at / Members::kMetadata);
         size_t index = 0;
         for (const auto& channel : essence.TrackChannels()) {
             const std::string& trackId = channel->TrackId().Value();
             if (context.trackIds.count(trackId) == 0)
-                Add(at / "trackChannels" / index / "trackId", "track " + Quoted(trackId) + " is not a track of the asset");
+                Add(at / Members::kTrackChannels / index / Members::kTrackId,
+                    "track " + Quoted(trackId) + " is not a track of the asset");
             ++index;
         }
         SeenIds seenTables;
@@ -275,14 +283,15 @@ private:
         for (const auto& table : essence.Timecodes()) {
             // A table that essences share is written where it first occurs, and a pointer to it
             // elsewhere: a repeated name is reported at the element, its contents once.
-            const JsonPointer tableAt = at / "timecodes" / index++;
+            const JsonPointer tableAt = at / Members::kTimecodes / index++;
             CheckId(seenTables, table->FullyQualifiedName().Value(), tableAt, tableAt, "timecode table name");
             if (!checkedTables.insert(table.get()).second)
                 continue;
             size_t jumpIndex = 0;
             for (const auto& jump : table->TimeCodeJumpItems()) {
                 if (jump->TimeCode().IsEmpty())
-                    Add(tableAt / "timeCodeJumpItems" / jumpIndex / "timeCode", "the timecode jump has no timecode text");
+                    Add(tableAt / Members::kTimeCodeJumpItems / jumpIndex / Members::kTimeCode,
+                        "the timecode jump has no timecode text");
                 ++jumpIndex;
             }
         }
