@@ -13,6 +13,8 @@ namespace Orvik::Python {
 #ifdef ORVIK_PYTHON_JSON
 // The JSON form, bound when the JSON library is built (JsonBindings.cpp).
 void BindJson(py::module_& module);
+// The OpenTimelineIO form, bound after the JSON form whose layout and error it uses (OtioBindings.cpp).
+void BindOtio(py::module_& module);
 #endif
 
 #ifdef ORVIK_PYTHON_PROBE
@@ -51,6 +53,7 @@ PYBIND11_MODULE(orvik_media_assets, module)
     BindFirstDifference(module);
 #ifdef ORVIK_PYTHON_JSON
     BindJson(module);
+    BindOtio(module);
 #endif
 #ifdef ORVIK_PYTHON_PROBE
     BindProbe(module);
