@@ -36,15 +36,25 @@ public:
     /// Appends the step to the member `name` ("/" and the escaped name) to the pointer `text`.
     static void AppendName(std::string& text, std::string_view name)
     {
-        text += '/';
-        for (size_t at = 0;;) {
-            const size_t special = name.find_first_of("~/", at);
-            text.append(name.substr(at, special == std::string_view::npos ? special : special - at));
-            if (special == std::string_view::npos)
-                return;
-            text += name[special] == '~' ? "~0" : "~1";
-            at = special + 1;
+        const size_t start = text.size();
+        text.resize(start + 1 + 2 * name.size());
+        text.resize(static_cast<size_t>(WriteName(name, text.data() + start) - text.data()));
+    }
+
+    /// Writes the step to the member `name` at `out`, which has room for 1 + 2 * name.size()
+    /// characters, and returns the end of what it wrote.
+    static char* WriteName(std::string_view name, char* out)
+    {
+        *out++ = '/';
+        for (const char c : name) {
+            if (c == '~' || c == '/') {
+                *out++ = '~';
+                *out++ = c == '~' ? '0' : '1';
+            } else {
+                *out++ = c;
+            }
         }
+        return out;
     }
 
 private:

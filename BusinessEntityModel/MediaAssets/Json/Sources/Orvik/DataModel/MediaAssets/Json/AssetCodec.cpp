@@ -22,29 +22,28 @@ struct ItemParts {
 };
 
 // clang-format off
-constexpr auto kChannelTable = MakeTable(Fields<3, TrackChannelToRemove>{{
-    {kStream,
+constexpr auto kChannelTable = MakeTable(Fields(
+    Field(kStream,
      [](Writer& w, const TrackChannelToRemove& channel) { WriteReference(w, channel.Stream()); },
-     [](Reader& r, value v, TrackChannelToRemove& channel) { channel.Stream(ReadReference<Stream>(r, v)); }},
-    {kEssenceNr,
+     [](Reader& r, value v, TrackChannelToRemove& channel) { channel.Stream(ReadReference<Stream>(r, v)); }),
+    Field(kEssenceNr,
      [](Writer& w, const TrackChannelToRemove& channel) { w.Int(channel.EssenceNr()); },
-     [](Reader& r, value v, TrackChannelToRemove& channel) { channel.EssenceNr(r.Int32(v)); }},
-    {kChannelNr,
+     [](Reader& r, value v, TrackChannelToRemove& channel) { channel.EssenceNr(r.Int32(v)); }),
+    Field(kChannelNr,
      [](Writer& w, const TrackChannelToRemove& channel) { w.Int(channel.ChannelNr()); },
-     [](Reader& r, value v, TrackChannelToRemove& channel) { channel.ChannelNr(r.Int32(v)); }},
-}});
+     [](Reader& r, value v, TrackChannelToRemove& channel) { channel.ChannelNr(r.Int32(v)); })));
 
-constexpr auto kTrackTable = MakeTable(Fields<4, Track>{{
-    {kObjectId,
+constexpr auto kTrackTable = MakeTable(Fields(
+    Field(kObjectId,
      [](Writer& w, const Track& track) { w.Int(track.ObjectId()); },
-     [](Reader& r, value v, Track& track) { track.ObjectId(r.Int64(v)); }},
-    {kId,
+     [](Reader& r, value v, Track& track) { track.ObjectId(r.Int64(v)); }),
+    Field(kId,
      [](Writer& w, const Track& track) { w.String(track.Id().Value()); },
-     [](Reader& r, value v, Track& track) { track.Id(TrackId(r.Text(v))); }},
-    {kName,
+     [](Reader& r, value v, Track& track) { track.Id(TrackId(r.Text(v))); }),
+    Field(kName,
      [](Writer& w, const Track& track) { w.String(track.Name()); },
-     [](Reader& r, value v, Track& track) { track.Name(r.Text(v)); }},
-    {kChannels,
+     [](Reader& r, value v, Track& track) { track.Name(r.Text(v)); }),
+    Field(kChannels,
      [](Writer& w, const Track& track) {
          w.Array(track.Channels(), [&](const std::shared_ptr<TrackChannelToRemove>& channel) {
              if (!channel)
@@ -58,20 +57,19 @@ constexpr auto kTrackTable = MakeTable(Fields<4, Track>{{
              ReadObject(r, element, kChannelTable, *channel);
              track.Channels().push_back(std::move(channel));
          });
-     }},
-}});
+     })));
 
-constexpr auto kItemTable = MakeTable(Fields<4, TrackLayoutItem, ItemParts>{{
-    {kObjectId,
+constexpr auto kItemTable = MakeTable(Fields(
+    Field(kObjectId,
      [](Writer& w, const TrackLayoutItem& item) { w.Int(item.ObjectId()); },
-     [](Reader& r, value v, ItemParts& item) { item.objectId = r.Int64(v); }},
-    {kId,
+     [](Reader& r, value v, ItemParts& item) { item.objectId = r.Int64(v); }),
+    Field(kId,
      [](Writer& w, const TrackLayoutItem& item) { w.String(item.Id().Value()); },
-     [](Reader& r, value v, ItemParts& item) { item.id = r.Text(v); }},
-    {kName,
+     [](Reader& r, value v, ItemParts& item) { item.id = r.Text(v); }),
+    Field(kName,
      [](Writer& w, const TrackLayoutItem& item) { w.String(item.Name()); },
-     [](Reader& r, value v, ItemParts& item) { item.name = r.Text(v); }},
-    {kTracks,
+     [](Reader& r, value v, ItemParts& item) { item.name = r.Text(v); }),
+    Field(kTracks,
      [](Writer& w, const TrackLayoutItem& item) {
          w.Array(item.Tracks(), [&](const std::weak_ptr<Track>& shown) {
              const std::shared_ptr<Track> track = shown.lock();
@@ -85,8 +83,7 @@ constexpr auto kItemTable = MakeTable(Fields<4, TrackLayoutItem, ItemParts>{{
      },
      [](Reader& r, value v, ItemParts& item) {
          r.Array(v, [&](value element) { item.tracks.push_back(r.Referenced<Track>(element, "a track")); });
-     }},
-}});
+     })));
 
 TrackLayoutItem ReadItem(Reader& r, value v)
 {
@@ -100,89 +97,87 @@ TrackLayoutItem ReadItem(Reader& r, value v)
     return item;
 }
 
-constexpr auto kLayoutTable = MakeTable(Fields<4, TrackLayout>{{
-    {kObjectId,
+constexpr auto kLayoutTable = MakeTable(Fields(
+    Field(kObjectId,
      [](Writer& w, const TrackLayout& layout) { w.Int(layout.ObjectId()); },
-     [](Reader& r, value v, TrackLayout& layout) { layout.ObjectId(r.Int64(v)); }},
-    {kId,
+     [](Reader& r, value v, TrackLayout& layout) { layout.ObjectId(r.Int64(v)); }),
+    Field(kId,
      [](Writer& w, const TrackLayout& layout) { w.String(layout.Id().Value()); },
-     [](Reader& r, value v, TrackLayout& layout) { layout.Id(Identifier(r.Text(v))); }},
-    {kName,
+     [](Reader& r, value v, TrackLayout& layout) { layout.Id(Identifier(r.Text(v))); }),
+    Field(kName,
      [](Writer& w, const TrackLayout& layout) { w.String(layout.Name()); },
-     [](Reader& r, value v, TrackLayout& layout) { layout.Name(r.Text(v)); }},
-    {kTrackLayoutItems,
+     [](Reader& r, value v, TrackLayout& layout) { layout.Name(r.Text(v)); }),
+    Field(kTrackLayoutItems,
      [](Writer& w, const TrackLayout& layout) {
          w.Array(layout.TrackLayoutItems(), [&](const TrackLayoutItem& item) { WriteObject(w, kItemTable, item); });
      },
      [](Reader& r, value v, TrackLayout& layout) {
          ReadInDocumentOrder<TrackLayoutItem>(r, v, layout.TrackLayoutItems(),
                                               [&](value element) { return ReadItem(r, element); });
-     }},
-}});
+     })));
 
-constexpr auto kAnnotationTable = MakeTable(Fields<5, Annotation>{{
-    {kObjectId,
+constexpr auto kAnnotationTable = MakeTable(Fields(
+    Field(kObjectId,
      [](Writer& w, const Annotation& annotation) { w.Int(annotation.ObjectId()); },
-     [](Reader& r, value v, Annotation& annotation) { annotation.ObjectId(r.Int64(v)); }},
-    {kType,
+     [](Reader& r, value v, Annotation& annotation) { annotation.ObjectId(r.Int64(v)); }),
+    Field(kType,
      [](Writer& w, const Annotation& annotation) { w.String(ToString(annotation.Type())); },
      [](Reader& r, value v, Annotation& annotation) {
          annotation.Type(r.Enumeration(v, &ToAnnotationType, "AnnotationType"));
-     }},
-    {kData,
+     }),
+    Field(kData,
      [](Writer& w, const Annotation& annotation) { w.String(annotation.Data()); },
-     [](Reader& r, value v, Annotation& annotation) { annotation.Data(r.Text(v)); }},
-    {kTimeBounds,
+     [](Reader& r, value v, Annotation& annotation) { annotation.Data(r.Text(v)); }),
+    Field(kTimeBounds,
      [](Writer& w, const Annotation& annotation) { Write(w, annotation.TimeBounds()); },
-     [](Reader& r, value v, Annotation& annotation) { annotation.TimeBounds(ReadTimeBounds(r, v)); }},
-    {kMetadata,
+     [](Reader& r, value v, Annotation& annotation) { annotation.TimeBounds(ReadTimeBounds(r, v)); }),
+    Field(kMetadata,
      [](Writer& w, const Annotation& annotation) { Write(w, annotation.Metadata()); },
-     [](Reader& r, value v, Annotation& annotation) { Read(r, v, annotation.Metadata()); }},
-}});
+     [](Reader& r, value v, Annotation& annotation) { Read(r, v, annotation.Metadata()); })));
 
-constexpr auto kAssetTable = MakeTable(Fields<15, MediaAsset>{{
-    {kObjectId,
+constexpr auto kAssetTable = MakeTable(Fields(
+    Field(kObjectId,
      [](Writer& w, const MediaAsset& asset) { w.Int(asset.ObjectId()); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.ObjectId(r.Int64(v)); }},
-    {kId,
+     [](Reader& r, value v, MediaAsset& asset) { asset.ObjectId(r.Int64(v)); }),
+    Field(kId,
      [](Writer& w, const MediaAsset& asset) { w.String(asset.Id().Value()); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.Id(MediaAssetId(r.Text(v))); }},
-    {kAssetType,
+     [](Reader& r, value v, MediaAsset& asset) { asset.Id(MediaAssetId(r.Text(v))); }),
+    Field(kAssetType,
      [](Writer& w, const MediaAsset& asset) { w.String(ToString(asset.AssetType())); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.AssetType(r.Enumeration(v, &ToAssetType, "AssetType")); }},
-    {kAncestor,
+     [](Reader& r, value v, MediaAsset& asset) { asset.AssetType(r.Enumeration(v, &ToAssetType, "AssetType")); }),
+    Field(kAncestor,
      [](Writer& w, const MediaAsset& asset) { w.String(asset.Ancestor().Id().Value()); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.Ancestor(MediaAssetReference(MediaAssetId(r.Text(v)))); }},
-    {kParent,
+     [](Reader& r, value v, MediaAsset& asset) { asset.Ancestor(MediaAssetReference(MediaAssetId(r.Text(v)))); }),
+    Field(kParent,
      [](Writer& w, const MediaAsset& asset) { w.String(asset.Parent().Id().Value()); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.Parent(MediaAssetReference(MediaAssetId(r.Text(v)))); }},
-    {kName,
+     [](Reader& r, value v, MediaAsset& asset) { asset.Parent(MediaAssetReference(MediaAssetId(r.Text(v)))); }),
+    Field(kName,
      [](Writer& w, const MediaAsset& asset) { w.String(asset.Name()); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.Name(r.Text(v)); }},
-    {kDescription,
+     [](Reader& r, value v, MediaAsset& asset) { asset.Name(r.Text(v)); }),
+    Field(kDescription,
      [](Writer& w, const MediaAsset& asset) { w.String(asset.Description()); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.Description(r.Text(v)); }},
-    {kPhysicalTimebounds,
+     [](Reader& r, value v, MediaAsset& asset) { asset.Description(r.Text(v)); }),
+    Field(kPhysicalTimebounds,
      [](Writer& w, const MediaAsset& asset) { Write(w, asset.PhysicalTimebounds()); },
-     [](Reader& r, value v, MediaAsset& asset) { Read(r, v, asset.PhysicalTimebounds()); }},
-    {kCreationDate,
+     [](Reader& r, value v, MediaAsset& asset) { Read(r, v, asset.PhysicalTimebounds()); }),
+    Field(kCreationDate,
      [](Writer& w, const MediaAsset& asset) { w.Int(asset.CreationDate()); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.CreationDate(r.Int64(v)); }},
-    {kModificationDate,
+     [](Reader& r, value v, MediaAsset& asset) { asset.CreationDate(r.Int64(v)); }),
+    Field(kModificationDate,
      [](Writer& w, const MediaAsset& asset) { w.Int(asset.ModificationDate()); },
-     [](Reader& r, value v, MediaAsset& asset) { asset.ModificationDate(r.Int64(v)); }},
-    {kMetadata,
+     [](Reader& r, value v, MediaAsset& asset) { asset.ModificationDate(r.Int64(v)); }),
+    Field(kMetadata,
      [](Writer& w, const MediaAsset& asset) { Write(w, asset.Metadata()); },
-     [](Reader& r, value v, MediaAsset& asset) { Read(r, v, asset.Metadata()); }},
-    {kMediaResources,
+     [](Reader& r, value v, MediaAsset& asset) { Read(r, v, asset.Metadata()); }),
+    Field(kMediaResources,
      [](Writer& w, const MediaAsset& asset) {
          w.Array(asset.MediaResources(), [&](const MediaResourceReference& reference) { WriteReference(w, reference); });
      },
      [](Reader& r, value v, MediaAsset& asset) {
          ReadInDocumentOrder<MediaResourceReference>(r, v, asset.MediaResources(),
                                                      [&](value element) { return ReadReference<MediaResource>(r, element); });
-     }},
-    {kTracks,
+     }),
+    Field(kTracks,
      [](Writer& w, const MediaAsset& asset) {
          w.Array(asset.Tracks(), [&](const std::shared_ptr<Track>& track) {
              w.Register(track.get());
@@ -196,8 +191,8 @@ constexpr auto kAssetTable = MakeTable(Fields<15, MediaAsset>{{
              r.Register(track);
              return track;
          });
-     }},
-    {kTrackLayouts,
+     }),
+    Field(kTrackLayouts,
      [](Writer& w, const MediaAsset& asset) {
          w.Array(asset.TrackLayouts(),
                  [&](const std::shared_ptr<TrackLayout>& layout) { WriteObject(w, kLayoutTable, *layout); });
@@ -208,8 +203,8 @@ constexpr auto kAssetTable = MakeTable(Fields<15, MediaAsset>{{
              ReadObject(r, element, kLayoutTable, *layout);
              return layout;
          });
-     }},
-    {kAnnotations,
+     }),
+    Field(kAnnotations,
      [](Writer& w, const MediaAsset& asset) {
          w.Array(asset.Annotations(), [&](const std::shared_ptr<Annotation>& annotation) {
              if (!annotation)
@@ -223,8 +218,7 @@ constexpr auto kAssetTable = MakeTable(Fields<15, MediaAsset>{{
              ReadObject(r, element, kAnnotationTable, *annotation);
              return annotation;
          });
-     }},
-}});
+     })));
 // clang-format on
 
 }  // namespace

@@ -11,40 +11,38 @@ namespace {
 using namespace Members;
 
 // clang-format off
-constexpr auto kTrackChannelTable = MakeTable(Fields<2, TrackChannel>{{
-    {kTrackId,
+constexpr auto kTrackChannelTable = MakeTable(Fields(
+    Field(kTrackId,
      [](Writer& w, const TrackChannel& channel) { w.String(channel.TrackId().Value()); },
-     [](Reader& r, value v, TrackChannel& channel) { channel.TrackId(Identifier(r.Text(v))); }},
-    {kChannelNr,
+     [](Reader& r, value v, TrackChannel& channel) { channel.TrackId(Identifier(r.Text(v))); }),
+    Field(kChannelNr,
      [](Writer& w, const TrackChannel& channel) { w.Int(channel.ChannelNr()); },
-     [](Reader& r, value v, TrackChannel& channel) { channel.ChannelNr(r.Int32(v)); }},
-}});
+     [](Reader& r, value v, TrackChannel& channel) { channel.ChannelNr(r.Int32(v)); })));
 
-constexpr auto kAspectRatioTable = MakeTable(Fields<2, AspectRatio>{{
-    {kWidthFactor,
+constexpr auto kAspectRatioTable = MakeTable(Fields(
+    Field(kWidthFactor,
      [](Writer& w, const AspectRatio& ratio) { w.Int(ratio.WidthFactor()); },
-     [](Reader& r, value v, AspectRatio& ratio) { ratio.WidthFactor(r.Int32(v)); }},
-    {kHeightFactor,
+     [](Reader& r, value v, AspectRatio& ratio) { ratio.WidthFactor(r.Int32(v)); }),
+    Field(kHeightFactor,
      [](Writer& w, const AspectRatio& ratio) { w.Int(ratio.HeightFactor()); },
-     [](Reader& r, value v, AspectRatio& ratio) { ratio.HeightFactor(r.Int32(v)); }},
-}});
+     [](Reader& r, value v, AspectRatio& ratio) { ratio.HeightFactor(r.Int32(v)); })));
 
 /// The members that every kind of essence has, first in each kind's table.
 template <typename E>
-constexpr Fields<6, E> kEssenceFields{{
-    {kObjectId,
+constexpr auto kEssenceFields = Fields(
+    Field(kObjectId,
      [](Writer& w, const E& essence) { w.Int(essence.ObjectId()); },
-     [](Reader& r, value v, E& essence) { essence.ObjectId(r.Int64(v)); }},
-    {kMetadata,
+     [](Reader& r, value v, E& essence) { essence.ObjectId(r.Int64(v)); }),
+    Field(kMetadata,
      [](Writer& w, const E& essence) { Write(w, essence.Metadata()); },
-     [](Reader& r, value v, E& essence) { Read(r, v, essence.Metadata()); }},
-    {kChannelCount,
+     [](Reader& r, value v, E& essence) { Read(r, v, essence.Metadata()); }),
+    Field(kChannelCount,
      [](Writer& w, const E& essence) { w.Int(essence.ChannelCount()); },
-     [](Reader& r, value v, E& essence) { essence.ChannelCount(r.Int32(v)); }},
-    {kNr,
+     [](Reader& r, value v, E& essence) { essence.ChannelCount(r.Int32(v)); }),
+    Field(kNr,
      [](Writer& w, const E& essence) { w.Int(essence.Nr()); },
-     [](Reader& r, value v, E& essence) { essence.Nr(r.Int32(v)); }},
-    {kTrackChannels,
+     [](Reader& r, value v, E& essence) { essence.Nr(r.Int32(v)); }),
+    Field(kTrackChannels,
      [](Writer& w, const E& essence) {
          w.Array(essence.TrackChannels(), [&](const std::shared_ptr<TrackChannel>& channel) {
              if (!channel)
@@ -58,91 +56,88 @@ constexpr Fields<6, E> kEssenceFields{{
              ReadObject(r, element, kTrackChannelTable, *channel);
              return channel;
          });
-     }},
-    {kTimecodes,
+     }),
+    Field(kTimecodes,
      [](Writer& w, const E& essence) {
          w.Array(essence.Timecodes(), [&](const std::shared_ptr<TimeCodeTable>& table) { Write(w, table); });
      },
      [](Reader& r, value v, E& essence) {
          ReadInDocumentOrder<std::shared_ptr<TimeCodeTable>>(r, v, essence.Timecodes(),
                                                              [&](value element) { return ReadTimeCodeTable(r, element); });
-     }},
-}};
+     }));
 
-constexpr auto kAudioTable = MakeTable(kEssenceFields<AudioEssence>, Fields<6, AudioEssence>{{
-    {kAudioCodec,
+constexpr auto kAudioTable = MakeTable(kEssenceFields<AudioEssence>, Fields(
+    Field(kAudioCodec,
      [](Writer& w, const AudioEssence& audio) { w.String(ToString(audio.AudioCodec())); },
      [](Reader& r, value v, AudioEssence& audio) {
          audio.AudioCodec(r.Enumeration(v, &ToAudioCodingFormat, "AudioCodingFormat"));
-     }},
-    {kBitRate,
+     }),
+    Field(kBitRate,
      [](Writer& w, const AudioEssence& audio) { w.Int(audio.BitRate()); },
-     [](Reader& r, value v, AudioEssence& audio) { audio.BitRate(r.Int32(v)); }},
-    {kBitRateMode,
+     [](Reader& r, value v, AudioEssence& audio) { audio.BitRate(r.Int32(v)); }),
+    Field(kBitRateMode,
      [](Writer& w, const AudioEssence& audio) { w.String(ToString(audio.BitRateMode())); },
-     [](Reader& r, value v, AudioEssence& audio) { audio.BitRateMode(r.Enumeration(v, &ToBitRateMode, "BitRateMode")); }},
-    {kSampleRate,
+     [](Reader& r, value v, AudioEssence& audio) { audio.BitRateMode(r.Enumeration(v, &ToBitRateMode, "BitRateMode")); }),
+    Field(kSampleRate,
      [](Writer& w, const AudioEssence& audio) { Write(w, audio.SampleRate()); },
-     [](Reader& r, value v, AudioEssence& audio) { audio.SampleRate(ReadRate(r, v)); }},
-    {kBitDepth,
+     [](Reader& r, value v, AudioEssence& audio) { audio.SampleRate(ReadRate(r, v)); }),
+    Field(kBitDepth,
      [](Writer& w, const AudioEssence& audio) { w.Int(audio.BitDepth()); },
-     [](Reader& r, value v, AudioEssence& audio) { audio.BitDepth(r.Int32(v)); }},
-    {kFourCC,
+     [](Reader& r, value v, AudioEssence& audio) { audio.BitDepth(r.Int32(v)); }),
+    Field(kFourCC,
      [](Writer& w, const AudioEssence& audio) { w.String(audio.FourCC()); },
-     [](Reader& r, value v, AudioEssence& audio) { audio.FourCC(r.Text(v)); }},
-}});
+     [](Reader& r, value v, AudioEssence& audio) { audio.FourCC(r.Text(v)); })));
 
 constexpr auto kDataTable = MakeTable(kEssenceFields<DataEssence>);
 
-constexpr auto kVideoTable = MakeTable(kEssenceFields<VideoEssence>, Fields<13, VideoEssence>{{
-    {kVideoCodec,
+constexpr auto kVideoTable = MakeTable(kEssenceFields<VideoEssence>, Fields(
+    Field(kVideoCodec,
      [](Writer& w, const VideoEssence& video) { w.String(ToString(video.VideoCodec())); },
      [](Reader& r, value v, VideoEssence& video) {
          video.VideoCodec(r.Enumeration(v, &ToVideoCodingFormat, "VideoCodingFormat"));
-     }},
-    {kBitRate,
+     }),
+    Field(kBitRate,
      [](Writer& w, const VideoEssence& video) { w.Int(video.BitRate()); },
-     [](Reader& r, value v, VideoEssence& video) { video.BitRate(r.Int32(v)); }},
-    {kBitRateMode,
+     [](Reader& r, value v, VideoEssence& video) { video.BitRate(r.Int32(v)); }),
+    Field(kBitRateMode,
      [](Writer& w, const VideoEssence& video) { w.String(ToString(video.BitRateMode())); },
-     [](Reader& r, value v, VideoEssence& video) { video.BitRateMode(r.Enumeration(v, &ToBitRateMode, "BitRateMode")); }},
-    {kBitDepth,
+     [](Reader& r, value v, VideoEssence& video) { video.BitRateMode(r.Enumeration(v, &ToBitRateMode, "BitRateMode")); }),
+    Field(kBitDepth,
      [](Writer& w, const VideoEssence& video) { w.Int(video.BitDepth()); },
-     [](Reader& r, value v, VideoEssence& video) { video.BitDepth(r.Int32(v)); }},
-    {kFrameRate,
+     [](Reader& r, value v, VideoEssence& video) { video.BitDepth(r.Int32(v)); }),
+    Field(kFrameRate,
      [](Writer& w, const VideoEssence& video) { Write(w, video.FrameRate()); },
-     [](Reader& r, value v, VideoEssence& video) { video.FrameRate(ReadRate(r, v)); }},
-    {kHeight,
+     [](Reader& r, value v, VideoEssence& video) { video.FrameRate(ReadRate(r, v)); }),
+    Field(kHeight,
      [](Writer& w, const VideoEssence& video) { w.Int(video.Height()); },
-     [](Reader& r, value v, VideoEssence& video) { video.Height(r.Int32(v)); }},
-    {kWidth,
+     [](Reader& r, value v, VideoEssence& video) { video.Height(r.Int32(v)); }),
+    Field(kWidth,
      [](Writer& w, const VideoEssence& video) { w.Int(video.Width()); },
-     [](Reader& r, value v, VideoEssence& video) { video.Width(r.Int32(v)); }},
-    {kChromaSubSampling,
+     [](Reader& r, value v, VideoEssence& video) { video.Width(r.Int32(v)); }),
+    Field(kChromaSubSampling,
      [](Writer& w, const VideoEssence& video) { w.String(ToString(video.ChromaSubSampling())); },
      [](Reader& r, value v, VideoEssence& video) {
          video.ChromaSubSampling(r.Enumeration(v, &ToChromaSubSampling, "ChromaSubSampling"));
-     }},
-    {kColorSpace,
+     }),
+    Field(kColorSpace,
      [](Writer& w, const VideoEssence& video) { w.String(ToString(video.ColorSpace())); },
-     [](Reader& r, value v, VideoEssence& video) { video.ColorSpace(r.Enumeration(v, &ToColorSpace, "ColorSpace")); }},
-    {kScanMode,
+     [](Reader& r, value v, VideoEssence& video) { video.ColorSpace(r.Enumeration(v, &ToColorSpace, "ColorSpace")); }),
+    Field(kScanMode,
      [](Writer& w, const VideoEssence& video) { w.String(ToString(video.ScanMode())); },
-     [](Reader& r, value v, VideoEssence& video) { video.ScanMode(r.Enumeration(v, &ToScanMode, "ScanMode")); }},
-    {kFourCC,
+     [](Reader& r, value v, VideoEssence& video) { video.ScanMode(r.Enumeration(v, &ToScanMode, "ScanMode")); }),
+    Field(kFourCC,
      [](Writer& w, const VideoEssence& video) { w.String(video.FourCC()); },
-     [](Reader& r, value v, VideoEssence& video) { video.FourCC(r.Text(v)); }},
-    {kAspectRatio,
+     [](Reader& r, value v, VideoEssence& video) { video.FourCC(r.Text(v)); }),
+    Field(kAspectRatio,
      [](Writer& w, const VideoEssence& video) { WriteObject(w, kAspectRatioTable, video.AspectRatio()); },
      [](Reader& r, value v, VideoEssence& video) {
          AspectRatio ratio;
          ReadObject(r, v, kAspectRatioTable, ratio);
          video.AspectRatio(ratio);
-     }},
-    {kBoxing,
+     }),
+    Field(kBoxing,
      [](Writer& w, const VideoEssence& video) { w.String(ToString(video.Boxing())); },
-     [](Reader& r, value v, VideoEssence& video) { video.Boxing(r.Enumeration(v, &ToBoxing, "Boxing")); }},
-}});
+     [](Reader& r, value v, VideoEssence& video) { video.Boxing(r.Enumeration(v, &ToBoxing, "Boxing")); })));
 // clang-format on
 
 }  // namespace

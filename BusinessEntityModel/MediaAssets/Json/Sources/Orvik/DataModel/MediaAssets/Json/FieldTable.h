@@ -4,7 +4,11 @@
 // document order, its name, how it is written and how it is read. The writer, the reader and the
 // key matching all walk the same table, so a member is named once and is read by the entry that
 // writes it. Members that several classes share (those of every essence, those of both operator
-// profiles) are a table of their own, put in front of each class's own fields.
+// profiles) are a list of their own, put in front of each class's own fields.
+//
+// A table is a tuple of fields, each holding its own lambdas, so that walking it is unrolled
+// while compiling: a field's writer and reader are inlined where the walk reaches them, as a
+// hand-written codec would be, and the reader picks a member's entry by a switch on its index.
 
 #include "Reader.h"
 #include "Writer.h"
@@ -13,78 +17,99 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
-/// One member: written from a `const Out&`, read into an `In&` (the object itself, or the parts
-/// an object is built from once all its members are read).
-template <typename Out, typename In = Out>
+/// One member: `write(w, object)` writes its value, `read(r, v, object)` reads it (into the
+/// object itself, or into the parts an object is built from once all its members are read). A
+/// member that may be absent has `isPresent(object)`, telling whether the object has it.
+template <typename Write, typename Read, typename IsPresent = std::nullptr_t>
 struct Field {
     std::string_view name;
-    void (*write)(Writer& w, const Out& object) = nullptr;
-    void (*read)(Reader& r, value v, In& object) = nullptr;
-    /// Set for a member that may be absent: whether `object` has it.
-    bool (*isPresent)(const Out& object) = nullptr;
+    Write write;
+    Read read;
+    IsPresent isPresent = nullptr;
+
+    constexpr Field(std::string_view name, Write write, Read read, IsPresent isPresent = nullptr)
+        : name(name), write(write), read(read), isPresent(isPresent)
+    {}
+    static constexpr bool kOptional = !std::is_same_v<IsPresent, std::nullptr_t>;
 };
 
-template <size_t N, typename Out, typename In = Out>
-using Fields = std::array<Field<Out, In>, N>;
+/// A list of fields, in document order.
+template <typename... F>
+constexpr std::tuple<F...> Fields(F... fields)
+{
+    return {fields...};
+}
 
-template <typename Out, typename In, size_t N>
+template <typename... F>
 struct FieldTable {
-    Fields<N, Out, In> fields;
-    MemberSet<N> members;
+    std::tuple<F...> fields;
+    MemberSet<sizeof...(F)> members;
 };
 
 namespace table_detail {
 
-template <typename Out, typename In, size_t N>
-constexpr MemberSet<N> MembersOf(const Fields<N, Out, In>& fields)
+template <typename... F>
+constexpr FieldTable<F...> Build(const std::tuple<F...>& fields)
 {
-    std::array<std::string_view, N> names{};
-    uint64_t optional = 0;
-    for (size_t index = 0; index < N; ++index) {
-        names[index] = fields[index].name;
-        if (fields[index].isPresent != nullptr)
-            optional |= uint64_t{1} << index;
+    return std::apply(
+        [&](const F&... field) {
+            uint64_t optional = 0;
+            size_t index = 0;
+            ((optional |= F::kOptional ? uint64_t{1} << index : 0, ++index), ...);
+            return FieldTable<F...>{fields, MemberSet<sizeof...(F)>({field.name...}, optional)};
+        },
+        fields);
+}
+
+template <typename Field, typename Out>
+void WriteField(Writer& w, const Field& field, const Out& object)
+{
+    if constexpr (Field::kOptional) {
+        if (!field.isPresent(object))
+            return;
     }
-    return MemberSet<N>(names, optional);
+    w.CurrentPath().Rename(field.name);
+    w.Key(field.name);
+    field.write(w, object);
+}
+
+template <size_t I = 0, typename Tuple, typename In>
+void ReadField(const Tuple& fields, size_t index, Reader& r, value v, In& object)
+{
+    if constexpr (I < std::tuple_size_v<Tuple>) {
+        if (index == I)
+            std::get<I>(fields).read(r, v, object);
+        else
+            ReadField<I + 1>(fields, index, r, v, object);
+    }
 }
 
 }  // namespace table_detail
 
-/// The table of the fields `parts`, one after another.
-template <typename Out, typename In, size_t... Sizes>
-constexpr FieldTable<Out, In, (Sizes + ...)> MakeTable(const Fields<Sizes, Out, In>&... parts)
+/// The table of the lists of fields `parts`, one after another.
+template <typename... Parts>
+constexpr auto MakeTable(const Parts&... parts)
 {
-    Fields<(Sizes + ...), Out, In> fields{};
-    size_t at = 0;
-    (
-        [&](const auto& part) {
-            for (const auto& field : part)
-                fields[at++] = field;
-        }(parts),
-        ...);
-    return {fields, table_detail::MembersOf(fields)};
+    return table_detail::Build(std::tuple_cat(parts...));
 }
 
 /// Writes the members of `object` by `table`, each with the path extended by its name.
-template <typename Out, typename In, size_t N>
-void WriteFields(Writer& w, const FieldTable<Out, In, N>& table, const Out& object)
+template <typename Out, typename... F>
+void WriteFields(Writer& w, const FieldTable<F...>& table, const Out& object)
 {
     const PathSegment segment(w.CurrentPath(), std::string_view());
-    for (const auto& field : table.fields) {
-        if (field.isPresent != nullptr && !field.isPresent(object))
-            continue;
-        w.CurrentPath().Rename(field.name);
-        w.Key(field.name);
-        field.write(w, object);
-    }
+    std::apply([&](const F&... field) { (table_detail::WriteField(w, field, object), ...); }, table.fields);
 }
 
 /// Writes `object` as a JSON object by `table`.
-template <typename Out, typename In, size_t N>
-void WriteObject(Writer& w, const FieldTable<Out, In, N>& table, const Out& object)
+template <typename Out, typename... F>
+void WriteObject(Writer& w, const FieldTable<F...>& table, const Out& object)
 {
     w.StartObject();
     WriteFields(w, table, object);
@@ -93,9 +118,8 @@ void WriteObject(Writer& w, const FieldTable<Out, In, N>& table, const Out& obje
 
 /// Writes `object` as a JSON object whose first member `tag` ("type" or "kind") names its class
 /// as `kind`, then its members by `table`.
-template <typename Out, typename In, size_t N>
-void WriteTagged(Writer& w, std::string_view tag, std::string_view kind, const FieldTable<Out, In, N>& table,
-                 const Out& object)
+template <typename Out, typename... F>
+void WriteTagged(Writer& w, std::string_view tag, std::string_view kind, const FieldTable<F...>& table, const Out& object)
 {
     w.StartObject();
     w.Key(tag);
@@ -105,15 +129,16 @@ void WriteTagged(Writer& w, std::string_view tag, std::string_view kind, const F
 }
 
 /// Reads the remaining members of an object into `object` by `table` (see Reader::ReadRest).
-template <typename Out, typename In, size_t N>
-void ReadFields(Reader& r, Reader::Rest& rest, const FieldTable<Out, In, N>& table, In& object)
+template <typename In, typename... F>
+void ReadFields(Reader& r, Reader::Rest& rest, const FieldTable<F...>& table, In& object)
 {
-    r.ReadRest(rest, table.members, [&](size_t index, value v) { table.fields[index].read(r, v, object); });
+    r.ReadRest(rest, table.members,
+               [&](size_t index, value v) { table_detail::ReadField(table.fields, index, r, v, object); });
 }
 
 /// Reads the object `v` into `object` by `table`.
-template <typename Out, typename In, size_t N>
-void ReadObject(Reader& r, value v, const FieldTable<Out, In, N>& table, In& object)
+template <typename In, typename... F>
+void ReadObject(Reader& r, value v, const FieldTable<F...>& table, In& object)
 {
     Reader::Rest rest = r.Open(v);
     ReadFields(r, rest, table, object);
@@ -121,8 +146,8 @@ void ReadObject(Reader& r, value v, const FieldTable<Out, In, N>& table, In& obj
 
 /// Reads the remaining members of an object into the new object that `made` points to, by
 /// `table`, and returns it.
-template <typename Made, typename Out, typename In, size_t N>
-Made ReadInto(Reader& r, Reader::Rest& rest, const FieldTable<Out, In, N>& table, Made made)
+template <typename Made, typename... F>
+Made ReadInto(Reader& r, Reader::Rest& rest, const FieldTable<F...>& table, Made made)
 {
     ReadFields(r, rest, table, *made);
     return made;

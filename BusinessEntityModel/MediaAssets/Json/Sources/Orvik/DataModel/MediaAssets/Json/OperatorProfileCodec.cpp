@@ -15,28 +15,27 @@ constexpr std::string_view kAnglesKind = "AnglesPelkOperatorMetadataProfile";
 // clang-format off
 /// The clip that both profiles describe, first in both tables.
 template <typename P>
-constexpr Fields<5, P> kClipFields{{
-    {kObjectId,
+constexpr auto kClipFields = Fields(
+    Field(kObjectId,
      [](Writer& w, const P& profile) { w.Int(profile.ObjectId()); },
-     [](Reader& r, value v, P& profile) { profile.ObjectId(r.Int64(v)); }},
-    {kServerId,
+     [](Reader& r, value v, P& profile) { profile.ObjectId(r.Int64(v)); }),
+    Field(kServerId,
      [](Writer& w, const P& profile) { w.Int(profile.ServerId().SerialNumber()); },
-     [](Reader& r, value v, P& profile) { profile.ServerId(ZanServerId(r.Int32(v))); }},
-    {kPage,
+     [](Reader& r, value v, P& profile) { profile.ServerId(ZanServerId(r.Int32(v))); }),
+    Field(kPage,
      [](Writer& w, const P& profile) { w.Int(profile.Page()); },
-     [](Reader& r, value v, P& profile) { profile.Page(r.Int32(v)); }},
-    {kBank,
+     [](Reader& r, value v, P& profile) { profile.Page(r.Int32(v)); }),
+    Field(kBank,
      [](Writer& w, const P& profile) { w.Int(profile.Bank()); },
-     [](Reader& r, value v, P& profile) { profile.Bank(r.Int32(v)); }},
-    {kClip,
+     [](Reader& r, value v, P& profile) { profile.Bank(r.Int32(v)); }),
+    Field(kClip,
      [](Writer& w, const P& profile) { w.Int(profile.Clip()); },
-     [](Reader& r, value v, P& profile) { profile.Clip(r.Int32(v)); }},
-}};
+     [](Reader& r, value v, P& profile) { profile.Clip(r.Int32(v)); }));
 
 using Pelk = PelkOperatorMetadataProfile;
 
-constexpr auto kPelkTable = MakeTable(kClipFields<Pelk>, Fields<16, Pelk>{{
-    {kCamera,
+constexpr auto kPelkTable = MakeTable(kClipFields<Pelk>, Fields(
+    Field(kCamera,
      [](Writer& w, const Pelk& profile) { w.String(CameraText(profile.Camera())); },
      [](Reader& r, value v, Pelk& profile) {
          const std::string_view text = r.String(v);
@@ -44,41 +43,41 @@ constexpr auto kPelkTable = MakeTable(kClipFields<Pelk>, Fields<16, Pelk>{{
          if (!CameraFromText(text, camera))
              r.Fail("expected \"\" or one character from U+0001 to U+00FF, found \"" + std::string(text) + "\"");
          profile.Camera(camera);
-     }},
-    {kUmId,
+     }),
+    Field(kUmId,
      [](Writer& w, const Pelk& profile) { w.String(profile.UmId()); },
-     [](Reader& r, value v, Pelk& profile) { profile.UmId(r.Text(v)); }},
-    {kVarId,
+     [](Reader& r, value v, Pelk& profile) { profile.UmId(r.Text(v)); }),
+    Field(kVarId,
      [](Writer& w, const Pelk& profile) { w.String(profile.VarId()); },
-     [](Reader& r, value v, Pelk& profile) { profile.VarId(r.Text(v)); }},
-    {kRating,
+     [](Reader& r, value v, Pelk& profile) { profile.VarId(r.Text(v)); }),
+    Field(kRating,
      [](Writer& w, const Pelk& profile) { w.Int(profile.Rating()); },
-     [](Reader& r, value v, Pelk& profile) { profile.Rating(r.Int32(v)); }},
-    {kArchiveStatus,
+     [](Reader& r, value v, Pelk& profile) { profile.Rating(r.Int32(v)); }),
+    Field(kArchiveStatus,
      [](Writer& w, const Pelk& profile) { w.String(ToString(profile.ArchiveStatus())); },
      [](Reader& r, value v, Pelk& profile) {
          profile.ArchiveStatus(r.Enumeration(v, &ToArchiveStatus, "ArchiveStatus"));
-     }},
-    {kUserTimecodeType,
+     }),
+    Field(kUserTimecodeType,
      [](Writer& w, const Pelk& profile) { w.String(ToString(profile.UserTimecodeType())); },
      [](Reader& r, value v, Pelk& profile) {
          profile.UserTimecodeType(r.Enumeration(v, &ToUserTimecodeType, "UserTimecodeType"));
-     }},
-    {kPrimaryTimecode,
+     }),
+    Field(kPrimaryTimecode,
      [](Writer& w, const Pelk& profile) { w.String(ToString(profile.PrimaryTimecode())); },
      [](Reader& r, value v, Pelk& profile) {
          profile.PrimaryTimecode(r.Enumeration(v, &ToTimecodePrimary, "TimecodePrimary"));
-     }},
-    {kUserTimecode,
+     }),
+    Field(kUserTimecode,
      [](Writer& w, const Pelk& profile) { Write(w, profile.UserTimecode()); },
-     [](Reader& r, value v, Pelk& profile) { profile.UserTimecode(ReadTimecode(r, v)); }},
-    {kTodTimecode,
+     [](Reader& r, value v, Pelk& profile) { profile.UserTimecode(ReadTimecode(r, v)); }),
+    Field(kTodTimecode,
      [](Writer& w, const Pelk& profile) { Write(w, profile.TodTimecode()); },
-     [](Reader& r, value v, Pelk& profile) { profile.TodTimecode(ReadTimecode(r, v)); }},
-    {kIcon,
+     [](Reader& r, value v, Pelk& profile) { profile.TodTimecode(ReadTimecode(r, v)); }),
+    Field(kIcon,
      [](Writer& w, const Pelk& profile) { w.String(profile.Icon()); },
-     [](Reader& r, value v, Pelk& profile) { profile.Icon(r.Text(v)); }},
-    {kColor,
+     [](Reader& r, value v, Pelk& profile) { profile.Icon(r.Text(v)); }),
+    Field(kColor,
      [](Writer& w, const Pelk& profile) { w.String(Color::ToString(profile.Color())); },
      [](Reader& r, value v, Pelk& profile) {
          const std::string text = r.Text(v);
@@ -86,16 +85,16 @@ constexpr auto kPelkTable = MakeTable(kClipFields<Pelk>, Fields<16, Pelk>{{
          if (!Color::TryParse(text, color))
              r.Fail("expected a colour \"#AARRGGBB\", found \"" + text + "\"");
          profile.Color(color);
-     }},
-    {kFillAndKeyType,
+     }),
+    Field(kFillAndKeyType,
      [](Writer& w, const Pelk& profile) { w.String(ToString(profile.FillAndKeyType())); },
      [](Reader& r, value v, Pelk& profile) {
          profile.FillAndKeyType(r.Enumeration(v, &ToFillAndKeyType, "FillAndKeyType"));
-     }},
-    {kFillAndKeyMediaAssetId,
+     }),
+    Field(kFillAndKeyMediaAssetId,
      [](Writer& w, const Pelk& profile) { w.String(profile.FillAndKeyMediaAssetId().Value()); },
-     [](Reader& r, value v, Pelk& profile) { profile.FillAndKeyMediaAssetId(Identifier(r.Text(v))); }},
-    {kKeywords,
+     [](Reader& r, value v, Pelk& profile) { profile.FillAndKeyMediaAssetId(Identifier(r.Text(v))); }),
+    Field(kKeywords,
      [](Writer& w, const Pelk& profile) {
          w.Array(profile.Keywords(), [&](const Utf8String& keyword) { w.String(keyword); });
      },
@@ -103,14 +102,13 @@ constexpr auto kPelkTable = MakeTable(kClipFields<Pelk>, Fields<16, Pelk>{{
          profile.ClearKeywords();
          size_t slot = 0;
          r.Array(v, [&](value keyword) { profile.Keyword(slot++, r.Text(keyword)); });
-     }},
-    {kUserProtected,
+     }),
+    Field(kUserProtected,
      [](Writer& w, const Pelk& profile) { w.Bool(profile.IsUserProtected()); },
-     [](Reader& r, value v, Pelk& profile) { profile.UserProtected(r.Bool(v)); }},
-    {kPelkUIProtected,
+     [](Reader& r, value v, Pelk& profile) { profile.UserProtected(r.Bool(v)); }),
+    Field(kPelkUIProtected,
      [](Writer& w, const Pelk& profile) { w.Bool(profile.IsPelkUiProtected()); },
-     [](Reader& r, value v, Pelk& profile) { profile.PelkUIProtected(r.Bool(v)); }},
-}});
+     [](Reader& r, value v, Pelk& profile) { profile.PelkUIProtected(r.Bool(v)); })));
 
 constexpr auto kAnglesTable = MakeTable(kClipFields<AnglesPelkOperatorMetadataProfile>);
 // clang-format on

@@ -69,15 +69,14 @@ struct ReferenceParts {
 
 // clang-format off
 template <typename T>
-constexpr auto kReferenceTable = MakeTable(Fields<2, SharedReference<T>, ReferenceParts<T>>{{
-    {Members::kId,
+constexpr auto kReferenceTable = MakeTable(Fields(
+    Field(Members::kId,
      [](Writer& w, const SharedReference<T>& reference) { w.String(reference.Id().Value()); },
-     [](Reader& r, value v, ReferenceParts<T>& parts) { parts.id = r.Text(v); }},
-    {Members::kPointer,
+     [](Reader& r, value v, ReferenceParts<T>& parts) { parts.id = r.Text(v); }),
+    Field(Members::kPointer,
      [](Writer& w, const SharedReference<T>& reference) { HeldObject<T>::Write(w, reference.Pointer()); },
      [](Reader& r, value v, ReferenceParts<T>& parts) { parts.object = HeldObject<T>::Read(r, v); },
-     [](const SharedReference<T>& reference) { return reference.Pointer() != nullptr; }},
-}});
+     [](const SharedReference<T>& reference) { return reference.Pointer() != nullptr; })));
 // clang-format on
 
 template <typename T>

@@ -12,76 +12,74 @@ namespace {
 using namespace Members;
 
 // clang-format off
-constexpr auto kStreamTable = MakeTable(Fields<7, Stream>{{
-    {kObjectId,
+constexpr auto kStreamTable = MakeTable(Fields(
+    Field(kObjectId,
      [](Writer& w, const Stream& stream) { w.Int(stream.ObjectId()); },
-     [](Reader& r, value v, Stream& stream) { stream.ObjectId(r.Int64(v)); }},
-    {kStreamId,
+     [](Reader& r, value v, Stream& stream) { stream.ObjectId(r.Int64(v)); }),
+    Field(kStreamId,
      [](Writer& w, const Stream& stream) { w.String(stream.Id().Value()); },
-     [](Reader& r, value v, Stream& stream) { stream.Id(StreamId(r.Text(v))); }},
-    {kFormat,
+     [](Reader& r, value v, Stream& stream) { stream.Id(StreamId(r.Text(v))); }),
+    Field(kFormat,
      [](Writer& w, const Stream& stream) { w.String(ToString(stream.Format())); },
-     [](Reader& r, value v, Stream& stream) { stream.Format(r.Enumeration(v, &ToWrapperFormat, "WrapperFormat")); }},
-    {kTimebounds,
+     [](Reader& r, value v, Stream& stream) { stream.Format(r.Enumeration(v, &ToWrapperFormat, "WrapperFormat")); }),
+    Field(kTimebounds,
      [](Writer& w, const Stream& stream) { Write(w, stream.Timebounds()); },
-     [](Reader& r, value v, Stream& stream) { Read(r, v, stream.Timebounds()); }},
-    {kMetadata,
+     [](Reader& r, value v, Stream& stream) { Read(r, v, stream.Timebounds()); }),
+    Field(kMetadata,
      [](Writer& w, const Stream& stream) { Write(w, stream.Metadata()); },
-     [](Reader& r, value v, Stream& stream) { Read(r, v, stream.Metadata()); }},
-    {kEssences,
+     [](Reader& r, value v, Stream& stream) { Read(r, v, stream.Metadata()); }),
+    Field(kEssences,
      [](Writer& w, const Stream& stream) {
          w.Array(stream.Essences(), [&](const std::unique_ptr<Essence>& essence) { Write(w, *essence); });
      },
      [](Reader& r, value v, Stream& stream) {
          ReadAppending<std::unique_ptr<Essence>>(r, v, stream.Essences(),
                                                  [&](value element) { return ReadEssence(r, element); });
-     }},
-    {kLocations,
+     }),
+    Field(kLocations,
      [](Writer& w, const Stream& stream) {
          w.Array(stream.Locations(), [&](const std::unique_ptr<Location>& location) { Write(w, *location); });
      },
      [](Reader& r, value v, Stream& stream) {
          ReadAppending<std::unique_ptr<Location>>(r, v, stream.Locations(),
                                                   [&](value element) { return ReadLocation(r, element); });
-     }},
-}});
+     })));
 
-constexpr auto kResourceTable = MakeTable(Fields<9, MediaResource>{{
-    {kObjectId,
+constexpr auto kResourceTable = MakeTable(Fields(
+    Field(kObjectId,
      [](Writer& w, const MediaResource& resource) { w.Int(resource.ObjectId()); },
-     [](Reader& r, value v, MediaResource& resource) { resource.ObjectId(r.Int64(v)); }},
-    {kId,
+     [](Reader& r, value v, MediaResource& resource) { resource.ObjectId(r.Int64(v)); }),
+    Field(kId,
      [](Writer& w, const MediaResource& resource) { w.String(resource.Id().Value()); },
-     [](Reader& r, value v, MediaResource& resource) { resource.Id(MediaResourceId(r.Text(v))); }},
-    {kName,
+     [](Reader& r, value v, MediaResource& resource) { resource.Id(MediaResourceId(r.Text(v))); }),
+    Field(kName,
      [](Writer& w, const MediaResource& resource) { w.String(resource.Name()); },
-     [](Reader& r, value v, MediaResource& resource) { resource.Name(r.Text(v)); }},
-    {kGeneralFormat,
+     [](Reader& r, value v, MediaResource& resource) { resource.Name(r.Text(v)); }),
+    Field(kGeneralFormat,
      [](Writer& w, const MediaResource& resource) { w.String(ToString(resource.GeneralFormat())); },
      [](Reader& r, value v, MediaResource& resource) {
          resource.GeneralFormat(r.Enumeration(v, &ToResourceFormat, "ResourceFormat"));
-     }},
-    {kStreams,
+     }),
+    Field(kStreams,
      [](Writer& w, const MediaResource& resource) {
          w.Array(resource.Streams(), [&](const StreamReference& reference) { WriteReference(w, reference); });
      },
      [](Reader& r, value v, MediaResource& resource) {
          ReadAppending<StreamReference>(r, v, resource.Streams(),
                                         [&](value element) { return ReadReference<Stream>(r, element); });
-     }},
-    {kTimebounds,
+     }),
+    Field(kTimebounds,
      [](Writer& w, const MediaResource& resource) { Write(w, resource.Timebounds()); },
-     [](Reader& r, value v, MediaResource& resource) { Read(r, v, resource.Timebounds()); }},
-    {kCreationDate,
+     [](Reader& r, value v, MediaResource& resource) { Read(r, v, resource.Timebounds()); }),
+    Field(kCreationDate,
      [](Writer& w, const MediaResource& resource) { w.Int(resource.CreationDate()); },
-     [](Reader& r, value v, MediaResource& resource) { resource.CreationDate(r.Int64(v)); }},
-    {kModificationDate,
+     [](Reader& r, value v, MediaResource& resource) { resource.CreationDate(r.Int64(v)); }),
+    Field(kModificationDate,
      [](Writer& w, const MediaResource& resource) { w.Int(resource.ModificationDate()); },
-     [](Reader& r, value v, MediaResource& resource) { resource.ModificationDate(r.Int64(v)); }},
-    {kMetadata,
+     [](Reader& r, value v, MediaResource& resource) { resource.ModificationDate(r.Int64(v)); }),
+    Field(kMetadata,
      [](Writer& w, const MediaResource& resource) { Write(w, resource.Metadata()); },
-     [](Reader& r, value v, MediaResource& resource) { Read(r, v, resource.Metadata()); }},
-}});
+     [](Reader& r, value v, MediaResource& resource) { Read(r, v, resource.Metadata()); })));
 // clang-format on
 
 }  // namespace

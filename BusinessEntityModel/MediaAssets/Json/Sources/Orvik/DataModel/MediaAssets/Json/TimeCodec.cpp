@@ -17,80 +17,74 @@ struct RateParts {
 };
 
 // clang-format off
-constexpr auto kBoundaryTable = MakeTable(Fields<2, TimeBoundary>{{
-    {kTimePoint,
+constexpr auto kBoundaryTable = MakeTable(Fields(
+    Field(kTimePoint,
      [](Writer& w, const TimeBoundary& boundary) { w.Int(boundary.TimePoint().ToNanoseconds()); },
-     [](Reader& r, value v, TimeBoundary& boundary) { boundary.TimePoint(TimePoint(r.Int64(v))); }},
-    {kIsMoving,
+     [](Reader& r, value v, TimeBoundary& boundary) { boundary.TimePoint(TimePoint(r.Int64(v))); }),
+    Field(kIsMoving,
      [](Writer& w, const TimeBoundary& boundary) { w.Bool(boundary.IsMoving()); },
-     [](Reader& r, value v, TimeBoundary& boundary) { boundary.IsMoving(r.Bool(v)); }},
-}});
+     [](Reader& r, value v, TimeBoundary& boundary) { boundary.IsMoving(r.Bool(v)); })));
 
 /// The two boundaries, first in the tables of bounds and of bounds arrays.
 template <typename B>
-constexpr Fields<2, B> kBoundaryFields{{
-    {kInBoundary,
+constexpr auto kBoundaryFields = Fields(
+    Field(kInBoundary,
      [](Writer& w, const B& bounds) { Write(w, bounds.InBoundary()); },
-     [](Reader& r, value v, B& bounds) { bounds.InBoundary(ReadTimeBoundary(r, v)); }},
-    {kOutBoundary,
+     [](Reader& r, value v, B& bounds) { bounds.InBoundary(ReadTimeBoundary(r, v)); }),
+    Field(kOutBoundary,
      [](Writer& w, const B& bounds) { Write(w, bounds.OutBoundary()); },
-     [](Reader& r, value v, B& bounds) { bounds.OutBoundary(ReadTimeBoundary(r, v)); }},
-}};
+     [](Reader& r, value v, B& bounds) { bounds.OutBoundary(ReadTimeBoundary(r, v)); }));
 
 constexpr auto kBoundsTable = MakeTable(kBoundaryFields<TimeBounds>);
 
-constexpr auto kBoundsArrayTable = MakeTable(kBoundaryFields<TimeBoundsArray>, Fields<1, TimeBoundsArray>{{
-    {kElements,
+constexpr auto kBoundsArrayTable = MakeTable(kBoundaryFields<TimeBoundsArray>, Fields(
+    Field(kElements,
      [](Writer& w, const TimeBoundsArray& array) {
          w.Array(array, [&](const TimeBounds& bounds) { Write(w, bounds); });
      },
      [](Reader& r, value v, TimeBoundsArray& array) {
          ReadInDocumentOrder<TimeBounds>(r, v, array, [&](value element) { return ReadTimeBounds(r, element); });
-     }},
-}});
+     })));
 
-constexpr auto kTimecodeRateTable = MakeTable(Fields<2, TimePoints::Rate>{{
-    {kNumerator,
+constexpr auto kTimecodeRateTable = MakeTable(Fields(
+    Field(kNumerator,
      [](Writer& w, const TimePoints::Rate& rate) { w.Int(rate.Numerator()); },
-     [](Reader& r, value v, TimePoints::Rate& rate) { rate.Numerator(r.Int64(v)); }},
-    {kDenominator,
+     [](Reader& r, value v, TimePoints::Rate& rate) { rate.Numerator(r.Int64(v)); }),
+    Field(kDenominator,
      [](Writer& w, const TimePoints::Rate& rate) { w.Int(rate.Denominator()); },
-     [](Reader& r, value v, TimePoints::Rate& rate) { rate.Denominator(r.Int64(v)); }},
-}});
+     [](Reader& r, value v, TimePoints::Rate& rate) { rate.Denominator(r.Int64(v)); })));
 
-constexpr auto kTimecodeTable = MakeTable(Fields<4, Timecode>{{
-    {kRate,
+constexpr auto kTimecodeTable = MakeTable(Fields(
+    Field(kRate,
      [](Writer& w, const Timecode& timecode) { WriteObject(w, kTimecodeRateTable, timecode.Rate()); },
      [](Reader& r, value v, Timecode& timecode) {
          TimePoints::Rate rate;
          ReadObject(r, v, kTimecodeRateTable, rate);
          timecode.Rate(rate);
-     }},
-    {kTotalSample,
+     }),
+    Field(kTotalSample,
      [](Writer& w, const Timecode& timecode) { w.Int(timecode.TotalSample()); },
-     [](Reader& r, value v, Timecode& timecode) { timecode.TotalSample(r.Int64(v)); }},
-    {kIsDrop,
+     [](Reader& r, value v, Timecode& timecode) { timecode.TotalSample(r.Int64(v)); }),
+    Field(kIsDrop,
      [](Writer& w, const Timecode& timecode) { w.Bool(timecode.IsDrop()); },
-     [](Reader& r, value v, Timecode& timecode) { timecode.IsDrop(r.Bool(v)); }},
-    {kHasDate,
+     [](Reader& r, value v, Timecode& timecode) { timecode.IsDrop(r.Bool(v)); }),
+    Field(kHasDate,
      [](Writer& w, const Timecode& timecode) { w.Bool(timecode.HasDate()); },
-     [](Reader& r, value v, Timecode& timecode) { timecode.HasDate(r.Bool(v)); }},
-}});
+     [](Reader& r, value v, Timecode& timecode) { timecode.HasDate(r.Bool(v)); })));
 
-constexpr auto kRateTable = MakeTable(Fields<2, Rate, RateParts>{{
-    {kNumerator,
+constexpr auto kRateTable = MakeTable(Fields(
+    Field(kNumerator,
      [](Writer& w, const Rate& rate) { w.Int(rate.Numerator()); },
-     [](Reader& r, value v, RateParts& rate) { rate.numerator = r.Int32(v); }},
-    {kDenominator,
+     [](Reader& r, value v, RateParts& rate) { rate.numerator = r.Int32(v); }),
+    Field(kDenominator,
      [](Writer& w, const Rate& rate) { w.Int(rate.Denominator()); },
-     [](Reader& r, value v, RateParts& rate) { rate.denominator = r.Int32(v); }},
-}});
+     [](Reader& r, value v, RateParts& rate) { rate.denominator = r.Int32(v); })));
 
-constexpr auto kJumpTable = MakeTable(Fields<3, TimeCodeJump>{{
-    {kTimePoint,
+constexpr auto kJumpTable = MakeTable(Fields(
+    Field(kTimePoint,
      [](Writer& w, const TimeCodeJump& jump) { w.Int(jump.TimePoint().ToNanoseconds()); },
-     [](Reader& r, value v, TimeCodeJump& jump) { jump.TimePoint(TimePoint(r.Int64(v))); }},
-    {kTimeCode,
+     [](Reader& r, value v, TimeCodeJump& jump) { jump.TimePoint(TimePoint(r.Int64(v))); }),
+    Field(kTimeCode,
      [](Writer& w, const TimeCodeJump& jump) { w.String(jump.TimeCode().Value()); },
      [](Reader& r, value v, TimeCodeJump& jump) {
          const std::string text = r.Text(v);
@@ -102,25 +96,24 @@ constexpr auto kJumpTable = MakeTable(Fields<3, TimeCodeJump>{{
              r.Fail("expected a timecode text such as \"10:00:00:00\" or \"23:59:59;29\", or \"\", found \"" + text
                     + "\"");
          }
-     }},
-    {kDuration,
+     }),
+    Field(kDuration,
      [](Writer& w, const TimeCodeJump& jump) { w.Int(jump.Duration()); },
-     [](Reader& r, value v, TimeCodeJump& jump) { jump.Duration(r.Int64(v)); }},
-}});
+     [](Reader& r, value v, TimeCodeJump& jump) { jump.Duration(r.Int64(v)); })));
 
-constexpr auto kTimeCodeTableTable = MakeTable(Fields<4, TimeCodeTable>{{
-    {kFqn,
+constexpr auto kTimeCodeTableTable = MakeTable(Fields(
+    Field(kFqn,
      [](Writer& w, const TimeCodeTable& table) { w.String(table.FullyQualifiedName().Value()); },
-     [](Reader& r, value v, TimeCodeTable& table) { table.FullyQualifiedName(FullyQualifiedName(r.Text(v))); }},
-    {kStandard,
+     [](Reader& r, value v, TimeCodeTable& table) { table.FullyQualifiedName(FullyQualifiedName(r.Text(v))); }),
+    Field(kStandard,
      [](Writer& w, const TimeCodeTable& table) { w.String(ToString(table.Standard())); },
      [](Reader& r, value v, TimeCodeTable& table) {
          table.Standard(r.Enumeration(v, &ToTimeCodeStandard, "TimeCodeStandard"));
-     }},
-    {kType,
+     }),
+    Field(kType,
      [](Writer& w, const TimeCodeTable& table) { w.String(table.Type()); },
-     [](Reader& r, value v, TimeCodeTable& table) { table.Type(r.Text(v)); }},
-    {kTimeCodeJumpItems,
+     [](Reader& r, value v, TimeCodeTable& table) { table.Type(r.Text(v)); }),
+    Field(kTimeCodeJumpItems,
      [](Writer& w, const TimeCodeTable& table) {
          w.Array(table.TimeCodeJumpItems(), [&](const std::shared_ptr<TimeCodeJump>& jump) {
              if (!jump)
@@ -134,8 +127,7 @@ constexpr auto kTimeCodeTableTable = MakeTable(Fields<4, TimeCodeTable>{{
              ReadObject(r, element, kJumpTable, *jump);
              return jump;
          });
-     }},
-}});
+     })));
 // clang-format on
 
 }  // namespace
