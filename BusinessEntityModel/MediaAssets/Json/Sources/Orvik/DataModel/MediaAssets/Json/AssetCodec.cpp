@@ -6,6 +6,7 @@
 #include "Collections.h"
 #include "FieldTable.h"
 #include "References.h"
+#include "TableList.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -226,5 +227,15 @@ constexpr auto kAssetTable = MakeTable(Fields(
 void Write(Writer& w, const MediaAsset& asset) { WriteObject(w, kAssetTable, asset); }
 
 void ReadMembers(Reader& r, Reader::Rest& rest, MediaAsset& asset) { ReadFields(r, rest, kAssetTable, asset); }
+
+void AddAssetTables(std::vector<TableMembers>& tables)
+{
+    tables.push_back({"trackChannelToRemove", NamesOf(kChannelTable)});
+    tables.push_back({"track", NamesOf(kTrackTable)});
+    tables.push_back({"trackLayoutItem", NamesOf(kItemTable)});
+    tables.push_back({"trackLayout", NamesOf(kLayoutTable)});
+    tables.push_back({"annotation", NamesOf(kAnnotationTable)});
+    tables.push_back({"mediaAsset", NamesOf(kAssetTable)});
+}
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -3,6 +3,7 @@
 #include "Codecs.h"
 #include "Collections.h"
 #include "FieldTable.h"
+#include "TableList.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -178,6 +179,15 @@ std::unique_ptr<Essence> ReadEssence(Reader& r, value v)
         }
     });
     return essence;
+}
+
+void AddEssenceTables(std::vector<TableMembers>& tables)
+{
+    tables.push_back({"trackChannel", NamesOf(kTrackChannelTable)});
+    tables.push_back({"aspectRatio", NamesOf(kAspectRatioTable)});
+    tables.push_back({"audioEssence", NamesOf(kAudioTable)});
+    tables.push_back({"dataEssence", NamesOf(kDataTable)});
+    tables.push_back({"videoEssence", NamesOf(kVideoTable)});
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -20,6 +20,7 @@
 #include <tuple>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -97,6 +98,13 @@ template <typename... Parts>
 constexpr auto MakeTable(const Parts&... parts)
 {
     return table_detail::Build(std::tuple_cat(parts...));
+}
+
+/// The member names of `table`, in order.
+template <typename... F>
+std::vector<std::string_view> NamesOf(const FieldTable<F...>& table)
+{
+    return {table.members.names.begin(), table.members.names.end()};
 }
 
 /// Writes the members of `object` by `table`, each with the path extended by its name.

@@ -4,6 +4,7 @@
 #include "Codecs.h"
 #include "Collections.h"
 #include "FieldTable.h"
+#include "TableList.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -109,6 +110,13 @@ std::shared_ptr<MediaAssetGroup> ReadGroup(Reader& r, Reader::Rest& rest)
     }
     ReadFields(r, rest, kGroupTable, *group);
     return group;
+}
+
+void AddGroupTables(std::vector<TableMembers>& tables)
+{
+    tables.push_back({"mediaAssetGroupItem", NamesOf(kItemTable)});
+    tables.push_back({"anglesMediaAssetGroupItem", NamesOf(kAnglesItemTable)});
+    tables.push_back({"mediaAssetGroup", NamesOf(kGroupTable)});
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

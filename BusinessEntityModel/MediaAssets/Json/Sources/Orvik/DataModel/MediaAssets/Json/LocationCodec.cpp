@@ -2,6 +2,7 @@
 
 #include "Codecs.h"
 #include "FieldTable.h"
+#include "TableList.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -106,6 +107,14 @@ std::unique_ptr<Location> ReadLocation(Reader& r, value v)
         }
     });
     return location;
+}
+
+void AddLocationTables(std::vector<TableMembers>& tables)
+{
+    tables.push_back({"fileLocation", NamesOf(kFileTable)});
+    tables.push_back({"zanLocation", NamesOf(kZanTable)});
+    tables.push_back({"daxContentTrackLocation", NamesOf(kContentTrackTable)});
+    tables.push_back({"daxProtectLocation", NamesOf(kProtectTable)});
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

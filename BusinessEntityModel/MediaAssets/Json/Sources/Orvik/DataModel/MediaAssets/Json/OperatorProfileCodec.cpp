@@ -2,6 +2,7 @@
 
 #include "Codecs.h"
 #include "FieldTable.h"
+#include "TableList.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -151,6 +152,12 @@ std::shared_ptr<MetadataProfile> ReadOperatorProfile(Reader& r, value v)
             r.FailTag(kKind, Alternatives({kPelkKind, kAnglesKind}), kind);
     });
     return result;
+}
+
+void AddOperatorProfileTables(std::vector<TableMembers>& tables)
+{
+    tables.push_back({"pelkOperatorProfile", NamesOf(kPelkTable)});
+    tables.push_back({"anglesPelkOperatorProfile", NamesOf(kAnglesTable)});
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -4,6 +4,7 @@
 #include "Collections.h"
 #include "FieldTable.h"
 #include "References.h"
+#include "TableList.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -95,5 +96,13 @@ void Write(Writer& w, const MediaResource& resource) { WriteObject(w, kResourceT
 void ReadMembers(Reader& r, Reader::Rest& rest, MediaResource& resource) { ReadFields(r, rest, kResourceTable, resource); }
 
 void Read(Reader& r, value v, MediaResource& resource) { ReadObject(r, v, kResourceTable, resource); }
+
+void AddStreamTables(std::vector<TableMembers>& tables)
+{
+    tables.push_back({"stream", NamesOf(kStreamTable)});
+    tables.push_back({"mediaResource", NamesOf(kResourceTable)});
+    tables.push_back({"streamReference", NamesOf(kReferenceTable<Stream>)});
+    tables.push_back({"mediaResourceReference", NamesOf(kReferenceTable<MediaResource>)});
+}
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail

@@ -3,6 +3,7 @@
 #include "Codecs.h"
 #include "Collections.h"
 #include "FieldTable.h"
+#include "TableList.h"
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
 
@@ -187,6 +188,18 @@ std::shared_ptr<TimeCodeTable> ReadTimeCodeTable(Reader& r, value v)
     ReadObject(r, v, kTimeCodeTableTable, *table);
     r.Register(table);
     return table;
+}
+
+void AddTimeTables(std::vector<TableMembers>& tables)
+{
+    tables.push_back({"timeBoundary", NamesOf(kBoundaryTable)});
+    tables.push_back({"timeBounds", NamesOf(kBoundsTable)});
+    tables.push_back({"timeBoundsArray", NamesOf(kBoundsArrayTable)});
+    tables.push_back({"rate", NamesOf(kRateTable)});
+    tables.push_back({"timecode", NamesOf(kTimecodeTable)});
+    tables.push_back({"timecodeRate", NamesOf(kTimecodeRateTable)});
+    tables.push_back({"timeCodeJump", NamesOf(kJumpTable)});
+    tables.push_back({"timeCodeTable", NamesOf(kTimeCodeTableTable)});
 }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json::detail
