@@ -84,8 +84,7 @@ void AddBoundary(TreeNode& node, std::string label, const TimeBoundary& boundary
 void AddRate(TreeNode& node, std::string label, const Rate& rate)
 {
     if (rate != Rate::Empty())
-        node.children.push_back(Leaf(
-            std::move(label), std::to_string(rate.Numerator()) + "/" + std::to_string(rate.Denominator()), Tone::Plain));
+        node.children.push_back(Leaf(std::move(label), RateText(rate.Numerator(), rate.Denominator()), Tone::Plain));
 }
 
 void AddTimecode(TreeNode& node, std::string label, const Timecode& timecode)

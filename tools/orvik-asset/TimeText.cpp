@@ -55,10 +55,15 @@ std::string BoundaryText(const TimeBoundary& boundary)
     return TimePointText(boundary.TimePoint()) + (boundary.IsMoving() ? " (moving)" : "");
 }
 
+std::string RateText(int64_t numerator, int64_t denominator)
+{
+    return std::to_string(numerator) + "/" + std::to_string(denominator);
+}
+
 std::string TimecodeText(const Timecode& timecode)
 {
     const auto& rate = timecode.Rate();
-    const std::string rateText = " @ " + std::to_string(rate.Numerator()) + "/" + std::to_string(rate.Denominator());
+    const std::string rateText = " @ " + RateText(rate.Numerator(), rate.Denominator());
     try {
         return timecode.ToString(TimePoints::SmpteTimeCodeFormatter()) + rateText;
     } catch (const std::invalid_argument&) {

@@ -21,6 +21,10 @@ std::string TimePointText(const DataModel::MediaAssets::TimePoint& timePoint);
 /// moving boundary.
 std::string BoundaryText(const DataModel::MediaAssets::TimeBoundary& boundary);
 
+/// A rate as "numerator/denominator": "25/1", "30000/1001"; both the essence rates and the
+/// timecodes' rates are shown so.
+std::string RateText(int64_t numerator, int64_t denominator);
+
 /// The SMPTE label of the timecode and its rate: "10:00:00:00 @ 25/1", "00:01:00;02 @ 30000/1001"
 /// with drop-frame counting, "2024-05-01 10:00:00:00 @ 25/1" with a date. A timecode that cannot
 /// be read as a label (a rate that is not positive, say) is written as its count:
