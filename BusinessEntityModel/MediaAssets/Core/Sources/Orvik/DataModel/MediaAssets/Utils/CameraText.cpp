@@ -33,9 +33,6 @@ bool CameraFromText(std::string_view text, char& camera)
     return false;
 }
 
-std::string ValidCamerasText()
-{
-    return std::string("'") + PelkId::MinCamera + "' to '" + PelkId::MaxCamera + "'";
-}
+std::string ValidCamerasText() { return std::string("'") + PelkId::MinCamera + "' to '" + PelkId::MaxCamera + "'"; }
 
 }  // namespace Orvik::DataModel::MediaAssets
