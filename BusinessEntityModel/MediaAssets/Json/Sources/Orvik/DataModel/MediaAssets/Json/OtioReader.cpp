@@ -250,15 +250,21 @@ private:
 /// back left by the blanks that ToOtio put after each line break, when every line has them.
 std::string Unindented(std::string_view text)
 {
-    std::string document(text.substr(0, text.find_last_not_of(" \t\n\r") + 1));  // the object ends at its brace
-    if (document.rfind("{\n", 0) != 0)
-        return document;
-    const std::string blanks(otio::kEmbeddedIndent, ' ');
-    for (size_t at = document.find('\n'); at != std::string::npos; at = document.find('\n', at + 1))
-        if (document.compare(at + 1, blanks.size(), blanks) != 0)
-            return document;
-    for (size_t at = document.find('\n'); at != std::string::npos; at = document.find('\n', at + 1))
-        document.erase(at + 1, otio::kEmbeddedIndent);
+    text = text.substr(0, text.find_last_not_of(" \t\n\r") + 1);  // the object ends at its brace
+    if (text.substr(0, 2) != "{\n")
+        return std::string(text);
+    static const std::string kBlanks(otio::kEmbeddedIndent, ' ');
+    const std::string_view blanks = kBlanks;
+    std::string document;
+    document.reserve(text.size());
+    size_t at = 0;
+    for (size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n', at)) {
+        if (text.substr(end + 1, blanks.size()) != blanks)
+            return std::string(text);
+        document.append(text.substr(at, end + 1 - at));
+        at = end + 1 + blanks.size();
+    }
+    document.append(text.substr(at));
     return document;
 }
 

@@ -223,11 +223,17 @@ private:
 std::string AssetDocument(const MediaAsset& asset, Layout layout)
 {
     try {
-        std::string document = ToJson(asset, layout);
-        if (layout == Layout::Indented)
-            for (size_t at = document.find('\n'); at != std::string::npos; at = document.find('\n', at + 1))
-                document.insert(at + 1, otio::kEmbeddedIndent, ' ');
-        return document;
+        const std::string document = ToJson(asset, layout);
+        if (layout == Layout::Compact)
+            return document;
+        std::string moved;
+        moved.reserve(document.size() + document.size() / 4);
+        for (const char c : document) {
+            moved += c;
+            if (c == '\n')
+                moved.append(otio::kEmbeddedIndent, ' ');
+        }
+        return moved;
     } catch (const JsonError& error) {
         throw JsonError(otio::kAssetPointer + error.Path(), error.Expected());
     }
