@@ -21,12 +21,16 @@ namespace {
 using detail::OtioClip;
 using detail::OtioRange;
 
+/// What the writer leaves where the asset's document goes: RapidJSON would copy the document
+/// byte by byte, so it is put in afterwards in one piece.
+constexpr char kAssetPlaceholder[] = "{}";
+
 template <typename W>
 class OtioWriter {
 public:
     explicit OtioWriter(W& w) : w(w) {}
 
-    void Timeline(const MediaAsset& asset, const std::string& assetDocument)
+    void Timeline(const MediaAsset& asset)
     {
         const std::vector<OtioClip> clips = detail::OtioClips(asset);
         const size_t markerClip = detail::MarkerClip(clips);
@@ -37,7 +41,7 @@ public:
         Key(kOtioMetadataKey);
         w.StartObject();
         Key(otio::kAssetKey);
-        Embed(assetDocument);
+        w.RawValue(kAssetPlaceholder, sizeof kAssetPlaceholder - 1, rapidjson::kObjectType);
         w.EndObject();
         w.EndObject();
         String("name", asset.Name());
@@ -75,10 +79,6 @@ private:
         w.StartArray();
         w.EndArray();
     }
-
-    /// The asset's document as a JSON object, byte for byte as ToJson wrote it, so that the texts
-    /// of metadata profiles kept as read come back unchanged.
-    void Embed(const std::string& document) { w.RawValue(document.data(), document.size(), rapidjson::kObjectType); }
 
     /// The members that every Item starts with, up to its children or media references.
     void ItemStart(const char* schema, const std::string& name)
@@ -218,25 +218,26 @@ private:
 };
 
 /// The asset's own document, with the path of a failure inside the .otio document.
-/// The asset's own document, its indented form moved right to where it stands in the timeline
-/// (blanks after line breaks only change what lies between the tokens).
+/// The asset's own document, with the path of a failure inside the timeline.
 std::string AssetDocument(const MediaAsset& asset, Layout layout)
 {
     try {
-        const std::string document = ToJson(asset, layout);
-        if (layout == Layout::Compact)
-            return document;
-        std::string moved;
-        moved.reserve(document.size() + document.size() / 4);
-        for (const char c : document) {
-            moved += c;
-            if (c == '\n')
-                moved.append(otio::kEmbeddedIndent, ' ');
-        }
-        return moved;
+        return ToJson(asset, layout);
     } catch (const JsonError& error) {
         throw JsonError(otio::kAssetPointer + error.Path(), error.Expected());
     }
+}
+
+/// Appends the indented `document` moved right to the depth where it stands in the timeline
+/// (blanks after line breaks only change what lies between its tokens).
+void AppendMovedRight(std::string& text, const std::string& document)
+{
+    size_t at = 0;
+    for (size_t end = document.find('\n'); end != std::string::npos; end = document.find('\n', at)) {
+        text.append(document, at, end + 1 - at).append(otio::kEmbeddedIndent, ' ');
+        at = end + 1;
+    }
+    text.append(document, at, std::string::npos);
 }
 
 }  // namespace
@@ -247,12 +248,23 @@ std::string ToOtio(const MediaAsset& asset, Layout layout)
     rapidjson::StringBuffer buffer;
     if (layout == Layout::Compact) {
         rapidjson::Writer<rapidjson::StringBuffer> w(buffer);
-        OtioWriter(w).Timeline(asset, document);
+        OtioWriter(w).Timeline(asset);
     } else {
         rapidjson::PrettyWriter<rapidjson::StringBuffer> w(buffer);
-        OtioWriter(w).Timeline(asset, document);
+        OtioWriter(w).Timeline(asset);
     }
-    std::string text(buffer.GetString(), buffer.GetSize());
+    // The asset's document goes where the writer left its place, in one piece.
+    const std::string_view timeline(buffer.GetString(), buffer.GetSize());
+    const size_t at = timeline.find(kAssetPlaceholder, timeline.find('"' + std::string(otio::kAssetKey) + '"'));
+    std::string text;
+    text.reserve(timeline.size() + document.size() + document.size() / 2 + 1);
+    text.append(timeline.substr(0, at));
+    if (layout == Layout::Compact) {
+        text.append(document);
+    } else {
+        AppendMovedRight(text, document);
+    }
+    text.append(timeline.substr(at + sizeof kAssetPlaceholder - 1));
     if (layout == Layout::Indented)
         text += '\n';
     return text;
