@@ -100,10 +100,12 @@ int main(int argc, char** argv)
     std::string otio;
     CLI::App* exportCommand = app.add_subcommand("export", "Write an asset document in a form that editing systems read");
     exportCommand->add_option("FILE", file, "The JSON document of an asset; - reads standard input")->required();
-    exportCommand->add_option("--otio", otio, "Write an OpenTimelineIO timeline (.otio) to this file; - writes standard output")
+    exportCommand
+        ->add_option("--otio", otio, "Write an OpenTimelineIO timeline (.otio) to this file; - writes standard output")
         ->required();
-    exportCommand->footer("The timeline holds one track per asset track, each with one clip trimmed to the asset's in and\n"
-                          "out points, in whole frames; the asset's document rides in its metadata, so import gives it back.");
+    exportCommand->footer(
+        "The timeline holds one track per asset track, each with one clip trimmed to the asset's in and\n"
+        "out points, in whole frames; the asset's document rides in its metadata, so import gives it back.");
 
     std::string imported;
     CLI::App* importCommand =
