@@ -257,7 +257,7 @@ TEST(JsonOtio, BadDocumentsAreRefusedAtTheirPointer)
     // clang-format off
     struct Row { std::string text; const char* message; };
     const Row rows[] = {
-        {"{", "(root): expected an OpenTimelineIO document, found malformed JSON (The JSON document has an improper structure: missing or superfluous commas, braces, missing keys, etc.)"},
+        {"{", "(root): expected an OpenTimelineIO document, found malformed JSON (a missing or superfluous comma, colon, brace or bracket)"},
         {"[]", "(root): expected an object, found an array"},
         {R"({"OTIO_SCHEMA":"Clip.2"})", R"(/OTIO_SCHEMA: expected "Timeline.1" or "Timeline.2", found "Clip.2")"},
         {R"({"OTIO_SCHEMA":"Timeline.1","metadata":{},"name":"x"})",

@@ -1,5 +1,6 @@
 // FromOtio: the asset of a timeline that ToOtio wrote, with an editor's changes read back.
 
+#include "MalformedJson.h"
 #include "OtioClips.h"
 #include "OtioNames.h"
 
@@ -300,9 +301,7 @@ MediaAsset FromOtio(std::string_view document)
     if (const auto error = parser.parse(padded).get(root); error != simdjson::SUCCESS) {
         if (error == simdjson::MEMALLOC)
             throw std::bad_alloc();
-        throw JsonError("",
-                        std::string("expected an OpenTimelineIO document, found malformed JSON (")
-                            + simdjson::error_message(error) + ")");
+        throw JsonError("", "expected an OpenTimelineIO document, found " + detail::Malformed(error));
     }
     const Place timeline{root, JsonPointer()};
     const Place schema = Member(timeline, "OTIO_SCHEMA");

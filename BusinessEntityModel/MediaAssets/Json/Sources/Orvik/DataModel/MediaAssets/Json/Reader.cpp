@@ -53,8 +53,8 @@ std::string Found(value& v)
     return "malformed JSON";
 }
 
-// What is wrong with malformed JSON, in the library's own words, so that a new version of the
-// parser does not change the texts of the errors.
+}  // namespace
+
 std::string Malformed(simdjson::error_code error)
 {
     switch (error) {
@@ -82,8 +82,6 @@ std::string Malformed(simdjson::error_code error)
         return "malformed JSON";
     }
 }
-
-}  // namespace
 
 std::string Alternatives(const std::string_view* names, size_t count)
 {

@@ -5,6 +5,7 @@
 // the JSON pointer of the value and what was expected.
 
 #include "EnumerationTexts.h"
+#include "MalformedJson.h"
 #include "MemberKey.h"
 #include "Path.h"
 #include "SharedPlaces.h"
