@@ -2,6 +2,7 @@
 // FromAnyJson and SchemaName for each.
 
 #include "Codecs.h"
+#include "StreamText.h"
 
 #include <Orvik/DataModel/MediaAssets/Json/AnyDocument.h>
 #include <Orvik/DataModel/MediaAssets/Json/FromJson.h>
@@ -115,14 +116,6 @@ void Put(std::ostream& out, const std::string& document)
     out.write(document.data(), static_cast<std::streamsize>(document.size()));
 }
 
-std::string ReadStream(std::istream& in)
-{
-    std::string document{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (in.bad())
-        throw JsonError("", "expected a readable stream, found a read error");
-    return document;
-}
-
 /// The schema names of the alternatives of AnyDocument, in their order.
 template <size_t... Kinds>
 constexpr std::array<std::string_view, sizeof...(Kinds)> KindNames(std::index_sequence<Kinds...>)
@@ -144,6 +137,14 @@ void ReadKind(size_t kind, Reader& r, Reader::Rest& rest, AnyDocument& result)
 }
 
 }  // namespace
+
+std::string detail::ReadAll(std::istream& in)
+{
+    std::string document{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (in.bad())
+        throw JsonError("", "expected a readable stream, found a read error");
+    return document;
+}
 
 std::string ToJson(const MediaAsset& value, Layout layout) { return Document<MediaAsset>(value, layout); }
 std::string ToJson(const MediaResource& value, Layout layout) { return Document<MediaResource>(value, layout); }
@@ -194,7 +195,7 @@ T FromJson(std::string_view document)
 template <typename T>
 T FromJson(std::istream& in)
 {
-    return FromJson<T>(std::string_view(ReadStream(in)));
+    return FromJson<T>(std::string_view(detail::ReadAll(in)));
 }
 
 AnyDocument FromAnyJson(std::string_view document)
@@ -205,7 +206,7 @@ AnyDocument FromAnyJson(std::string_view document)
     return result;
 }
 
-AnyDocument FromAnyJson(std::istream& in) { return FromAnyJson(std::string_view(ReadStream(in))); }
+AnyDocument FromAnyJson(std::istream& in) { return FromAnyJson(std::string_view(detail::ReadAll(in))); }
 
 std::string SchemaName(std::string_view document)
 {

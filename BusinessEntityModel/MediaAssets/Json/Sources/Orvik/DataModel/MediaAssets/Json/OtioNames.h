@@ -23,6 +23,20 @@ inline constexpr char kAudio[] = "Audio";
 inline constexpr char kDefaultMedia[] = "DEFAULT_MEDIA";
 inline constexpr char kMarkerColor[] = "RED";
 
+/// The members that both the writer and the reader name.
+inline constexpr char kSchemaMember[] = "OTIO_SCHEMA";
+inline constexpr char kChildren[] = "children";
+inline constexpr char kDuration[] = "duration";
+inline constexpr char kMarkedRange[] = "marked_range";
+inline constexpr char kMarkers[] = "markers";
+inline constexpr char kMetadata[] = "metadata";
+inline constexpr char kName[] = "name";
+inline constexpr char kRate[] = "rate";
+inline constexpr char kSourceRange[] = "source_range";
+inline constexpr char kStartTime[] = "start_time";
+inline constexpr char kTracks[] = "tracks";
+inline constexpr char kValue[] = "value";
+
 /// The members of our metadata ("orvik"): the asset's document in the timeline's, the track id
 /// in a clip's, the annotation's index in a marker's.
 inline constexpr char kAssetKey[] = "asset";

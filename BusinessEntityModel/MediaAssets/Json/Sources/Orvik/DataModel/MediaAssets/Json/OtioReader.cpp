@@ -3,6 +3,7 @@
 #include "MalformedJson.h"
 #include "OtioClips.h"
 #include "OtioNames.h"
+#include "StreamText.h"
 
 #include <Orvik/DataModel/MediaAssets/Annotation.h>
 #include <Orvik/DataModel/MediaAssets/Json/FromJson.h>
@@ -118,19 +119,20 @@ std::optional<OtioRange> DocumentRange(const Place& place)
 {
     if (place.value.is_null())
         return std::nullopt;
-    const Place start = Member(place, "start_time");
-    const Place duration = Member(place, "duration");
-    return OtioRange{Number(Member(start, "value")), Number(Member(duration, "value")), Number(Member(start, "rate"))};
+    const Place start = Member(place, otio::kStartTime);
+    const Place duration = Member(place, otio::kDuration);
+    return OtioRange{Number(Member(start, otio::kValue)), Number(Member(duration, otio::kValue)),
+                     Number(Member(start, otio::kRate))};
 }
 
 /// The frames of the RationalTime at `time`: a whole number at the clip's own rate, so that an
 /// edit comes back exactly.
 int64_t WholeFrames(const Place& time, const OtioClock& clock)
 {
-    const Place rate = Member(time, "rate");
+    const Place rate = Member(time, otio::kRate);
     if (Number(rate) != clock.Rate())
         Fail(rate, "the clip's rate " + NumberText(clock.Rate()));
-    const Place value = Member(time, "value");
+    const Place value = Member(time, otio::kValue);
     const double frames = Number(value);
     // 2^63, the first double beyond the 64-bit range.
     if (frames != std::trunc(frames) || std::fabs(frames) >= 9223372036854775808.0)
@@ -141,17 +143,17 @@ int64_t WholeFrames(const Place& time, const OtioClock& clock)
 /// The in and out points of the edited range at `place`.
 std::pair<TimePoint, TimePoint> EditedPoints(const Place& place, const OtioClock& clock)
 {
-    const Place start = Member(place, "start_time");
+    const Place start = Member(place, otio::kStartTime);
     const int64_t first = WholeFrames(start, clock);
     const std::optional<TimePoint> in = clock.Point(first);
     if (!in)
-        Fail(Member(start, "value"), "a frame on the 64-bit nanosecond time line");
-    const Place duration = Member(place, "duration");
+        Fail(Member(start, otio::kValue), "a frame on the 64-bit nanosecond time line");
+    const Place duration = Member(place, otio::kDuration);
     const int64_t length = WholeFrames(duration, clock);
     int64_t last = 0;
     const std::optional<TimePoint> out = __builtin_add_overflow(first, length, &last) ? std::nullopt : clock.Point(last);
     if (!out)
-        Fail(Member(duration, "value"), "a range on the 64-bit nanosecond time line");
+        Fail(Member(duration, otio::kValue), "a range on the 64-bit nanosecond time line");
     return {*in, *out};
 }
 
@@ -161,7 +163,7 @@ public:
 
     void Clip(const Place& clip)
     {
-        const std::optional<Place> metadata = OptionalMember(clip, "metadata");
+        const std::optional<Place> metadata = OptionalMember(clip, otio::kMetadata);
         const std::optional<Place> own = metadata ? OptionalMember(*metadata, kOtioMetadataKey) : std::nullopt;
         if (!own)
             return;  // a clip that an editor added: nothing of the asset
@@ -173,9 +175,9 @@ public:
         if (index == clips.size())
             Fail(trackId, "the id of one of the asset's tracks");
         const OtioClip& written = clips[index];
-        SourceRange(Member(clip, "source_range"), written.clock);
+        SourceRange(Member(clip, otio::kSourceRange), written.clock);
         if (index == detail::MarkerClip(clips))
-            Markers(Member(clip, "markers"), written.clock);
+            Markers(Member(clip, otio::kMarkers), written.clock);
     }
 
     void Finish()
@@ -215,8 +217,8 @@ private:
 
     std::shared_ptr<MediaAssets::Annotation> Annotation(const Place& marker, const OtioClock& clock)
     {
-        const std::string name = String(Member(marker, "name"));
-        const std::optional<Place> metadata = OptionalMember(marker, "metadata");
+        const std::string name = String(Member(marker, otio::kName));
+        const std::optional<Place> metadata = OptionalMember(marker, otio::kMetadata);
         const std::optional<Place> own = metadata ? OptionalMember(*metadata, kOtioMetadataKey) : std::nullopt;
         std::shared_ptr<MediaAssets::Annotation> annotation;
         if (own) {
@@ -228,7 +230,7 @@ private:
             annotation = std::make_shared<MediaAssets::Annotation>(AnnotationType::CuePoint);
         }
         annotation->Data(name);
-        const Place markedRange = Member(marker, "marked_range");
+        const Place markedRange = Member(marker, otio::kMarkedRange);
         const std::optional<OtioRange> range = DocumentRange(markedRange);
         if (!range)
             Fail(markedRange, "a TimeRange");
@@ -281,7 +283,7 @@ MediaAsset EmbeddedAsset(const Place& place, const simdjson::padded_string& docu
     simdjson::ondemand::document onDemand = parser.iterate(document);
     simdjson::ondemand::object object;
     std::string_view text;
-    if (onDemand["metadata"][kOtioMetadataKey][otio::kAssetKey].get_object().get(object) != simdjson::SUCCESS
+    if (onDemand[otio::kMetadata][kOtioMetadataKey][otio::kAssetKey].get_object().get(object) != simdjson::SUCCESS
         || object.raw_json().get(text) != simdjson::SUCCESS)
         Fail(place, "the asset's document as an object");
     try {
@@ -304,36 +306,30 @@ MediaAsset FromOtio(std::string_view document)
         throw JsonError("", "expected an OpenTimelineIO document, found " + detail::Malformed(error));
     }
     const Place timeline{root, JsonPointer()};
-    const Place schema = Member(timeline, "OTIO_SCHEMA");
+    const Place schema = Member(timeline, otio::kSchemaMember);
     const std::string schemaName = String(schema);
     if (schemaName != otio::kTimeline && schemaName != otio::kNextTimeline)
         throw JsonError(schema.at.Text(),
                         std::string("expected \"") + otio::kTimeline + "\" or \"" + otio::kNextTimeline + "\", found \""
                             + schemaName + "\"");
-    const Place metadata = Member(timeline, "metadata");
+    const Place metadata = Member(timeline, otio::kMetadata);
     const std::optional<Place> own = OptionalMember(metadata, kOtioMetadataKey);
     if (!own)
         throw JsonError(metadata.at.Text(),
                         std::string("expected member \"") + kOtioMetadataKey
                             + "\" with the asset the timeline was written from");
     MediaAsset asset = EmbeddedAsset(Member(*own, otio::kAssetKey), padded);
-    const std::string name = String(Member(timeline, "name"));
+    const std::string name = String(Member(timeline, otio::kName));
     OtioReader reader(asset);
-    for (const Place& track : Elements(Member(Member(timeline, "tracks"), "children")))
-        for (const Place& item : Elements(Member(track, "children")))
-            if (String(Member(item, "OTIO_SCHEMA")).rfind("Clip.", 0) == 0)
+    for (const Place& track : Elements(Member(Member(timeline, otio::kTracks), otio::kChildren)))
+        for (const Place& item : Elements(Member(track, otio::kChildren)))
+            if (String(Member(item, otio::kSchemaMember)).rfind("Clip.", 0) == 0)
                 reader.Clip(item);
     reader.Finish();
     asset.Name(name);
     return asset;
 }
 
-MediaAsset FromOtio(std::istream& in)
-{
-    const std::string document{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (in.bad())
-        throw JsonError("", "expected a readable stream, found a read error");
-    return FromOtio(document);
-}
+MediaAsset FromOtio(std::istream& in) { return FromOtio(detail::ReadAll(in)); }
 
 }  // namespace Orvik::DataModel::MediaAssets::Json

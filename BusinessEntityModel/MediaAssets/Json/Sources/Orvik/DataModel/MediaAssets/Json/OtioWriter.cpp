@@ -36,7 +36,7 @@ public:
         const size_t markerClip = detail::MarkerClip(clips);
         w.StartObject();
         Schema(otio::kTimeline);
-        Key("metadata");
+        Key(otio::kMetadata);
         w.StartObject();
         Key(kOtioMetadataKey);
         w.StartObject();
@@ -44,12 +44,12 @@ public:
         w.RawValue(kAssetPlaceholder, sizeof kAssetPlaceholder - 1, rapidjson::kObjectType);
         w.EndObject();
         w.EndObject();
-        String("name", asset.Name());
+        String(otio::kName, asset.Name());
         Key("global_start_time");
         w.Null();
-        Key("tracks");
-        ItemStart(otio::kStack, "tracks");
-        Key("children");
+        Key(otio::kTracks);
+        ItemStart(otio::kStack, otio::kTracks);
+        Key(otio::kChildren);
         w.StartArray();
         for (size_t index = 0; index < clips.size(); ++index)
             Track(asset, clips[index], index == markerClip);
@@ -66,7 +66,7 @@ private:
         Key(key);
         Text(text);
     }
-    void Schema(const char* schema) { String("OTIO_SCHEMA", schema); }
+    void Schema(const char* schema) { String(otio::kSchemaMember, schema); }
     void EmptyObject(const char* key)
     {
         Key(key);
@@ -85,12 +85,12 @@ private:
     {
         w.StartObject();
         Schema(schema);
-        EmptyObject("metadata");
-        String("name", name);
-        Key("source_range");
+        EmptyObject(otio::kMetadata);
+        String(otio::kName, name);
+        Key(otio::kSourceRange);
         w.Null();
         EmptyArray("effects");
-        EmptyArray("markers");
+        EmptyArray(otio::kMarkers);
         Key("enabled");
         w.Bool(true);
     }
@@ -100,9 +100,9 @@ private:
         Key(key);
         w.StartObject();
         Schema(otio::kRationalTime);
-        Key("rate");
+        Key(otio::kRate);
         w.Double(rate);
-        Key("value");
+        Key(otio::kValue);
         w.Double(value);
         w.EndObject();
     }
@@ -116,8 +116,8 @@ private:
         }
         w.StartObject();
         Schema(otio::kTimeRange);
-        Time("duration", range->duration, range->rate);
-        Time("start_time", range->start, range->rate);
+        Time(otio::kDuration, range->duration, range->rate);
+        Time(otio::kStartTime, range->start, range->rate);
         w.EndObject();
     }
 
@@ -125,7 +125,7 @@ private:
     template <typename Value>
     void OwnMetadata(const char* key, Value&& value)
     {
-        Key("metadata");
+        Key(otio::kMetadata);
         w.StartObject();
         Key(kOtioMetadataKey);
         w.StartObject();
@@ -138,7 +138,7 @@ private:
     void Track(const MediaAsset& asset, const OtioClip& clip, bool markers)
     {
         ItemStart(otio::kTrack, clip.track->Name());
-        Key("children");
+        Key(otio::kChildren);
         w.StartArray();
         Clip(asset, clip, markers);
         w.EndArray();
@@ -151,10 +151,10 @@ private:
         w.StartObject();
         Schema(otio::kClip);
         OwnMetadata(otio::kTrackKey, [&] { Text(clip.track->Id().Value()); });
-        String("name", asset.Name());
-        Range("source_range", detail::Range(clip.clock, asset.InBoundary(), asset.OutBoundary()));
+        String(otio::kName, asset.Name());
+        Range(otio::kSourceRange, detail::Range(clip.clock, asset.InBoundary(), asset.OutBoundary()));
         EmptyArray("effects");
-        Key("markers");
+        Key(otio::kMarkers);
         w.StartArray();
         if (markers)
             for (size_t index = 0; index < asset.Annotations().size(); ++index)
@@ -176,9 +176,9 @@ private:
         w.StartObject();
         Schema(otio::kMarker);
         OwnMetadata(otio::kAnnotationKey, [&] { w.Uint64(index); });
-        String("name", annotation.Data());
+        String(otio::kName, annotation.Data());
         String("color", otio::kMarkerColor);
-        Range("marked_range", detail::MarkedRange(clip.clock, annotation.TimeBounds()));
+        Range(otio::kMarkedRange, detail::MarkedRange(clip.clock, annotation.TimeBounds()));
         String("comment", "");
         w.EndObject();
     }
@@ -201,8 +201,8 @@ private:
             }
         w.StartObject();
         Schema(file != nullptr ? otio::kExternalReference : otio::kMissingReference);
-        EmptyObject("metadata");
-        String("name", file != nullptr ? file->Name() : place != nullptr ? place->Uri().Value() : clip.streamId);
+        EmptyObject(otio::kMetadata);
+        String(otio::kName, file != nullptr ? file->Name() : place != nullptr ? place->Uri().Value() : clip.streamId);
         Range("available_range",
               clip.stream == nullptr ? std::nullopt
                                      : detail::Range(clip.clock, clip.stream->Timebounds().InBoundary(),
