@@ -39,7 +39,7 @@ void InsertInDocumentOrder(Reader& r, Vector& vector, const T* items, size_t cou
 /// above it), so that an array needs no allocation of its own and its collection can be given
 /// room for all of them at once.
 template <typename T, typename Read, typename Take>
-void ReadBuffered(Reader& r, value v, Read&& read, Take&& take)
+void ReadBuffered(Reader& r, value& v, Read&& read, Take&& take)
 {
     std::vector<T>& pending = ThreadOwn<std::vector<T>>();
     struct Release {
@@ -47,13 +47,13 @@ void ReadBuffered(Reader& r, value v, Read&& read, Take&& take)
         const size_t start;
         ~Release() { pending.erase(pending.begin() + static_cast<std::ptrdiff_t>(start), pending.end()); }
     } const release{pending, pending.size()};
-    r.Array(v, [&](value element) { pending.push_back(read(element)); });
+    r.Array(v, [&](value& element) { pending.push_back(read(element)); });
     take(pending.data() + release.start, pending.size() - release.start);
 }
 
 /// Reads the array `v` into the sorted `vector` in document order (see ReadBuffered).
 template <typename T, typename Vector, typename Read>
-void ReadInDocumentOrder(Reader& r, value v, Vector& vector, Read&& read)
+void ReadInDocumentOrder(Reader& r, value& v, Vector& vector, Read&& read)
 {
     ReadBuffered<T>(r, v, read, [&](const T* items, size_t count) { InsertInDocumentOrder(r, vector, items, count); });
 }
@@ -75,7 +75,7 @@ void Append(std::vector<T>& vector, T* items, size_t count)
 
 /// Reads the array `v` onto the end of `collection` in document order (see ReadBuffered).
 template <typename T, typename Collection, typename Read>
-void ReadAppending(Reader& r, value v, Collection& collection, Read&& read)
+void ReadAppending(Reader& r, value& v, Collection& collection, Read&& read)
 {
     ReadBuffered<T>(r, v, read, [&](T* items, size_t count) { Append(collection, items, count); });
 }

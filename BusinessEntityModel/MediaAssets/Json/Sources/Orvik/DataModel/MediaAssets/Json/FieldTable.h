@@ -81,7 +81,7 @@ void WriteField(Writer& w, const Field& field, const Out& object)
 }
 
 template <size_t I = 0, typename Tuple, typename In>
-void ReadField(const Tuple& fields, size_t index, Reader& r, value v, In& object)
+void ReadField(const Tuple& fields, size_t index, Reader& r, value& v, In& object)
 {
     if constexpr (I < std::tuple_size_v<Tuple>) {
         if (index == I)
@@ -141,12 +141,12 @@ template <typename In, typename... F>
 void ReadFields(Reader& r, Reader::Rest& rest, const FieldTable<F...>& table, In& object)
 {
     r.ReadRest(rest, table.members,
-               [&](size_t index, value v) { table_detail::ReadField(table.fields, index, r, v, object); });
+               [&](size_t index, value& v) { table_detail::ReadField(table.fields, index, r, v, object); });
 }
 
 /// Reads the object `v` into `object` by `table`.
 template <typename In, typename... F>
-void ReadObject(Reader& r, value v, const FieldTable<F...>& table, In& object)
+void ReadObject(Reader& r, value& v, const FieldTable<F...>& table, In& object)
 {
     Reader::Rest rest = r.Open(v);
     ReadFields(r, rest, table, object);

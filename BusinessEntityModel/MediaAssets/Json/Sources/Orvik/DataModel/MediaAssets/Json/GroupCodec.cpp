@@ -23,17 +23,17 @@ template <typename I>
 constexpr auto kItemFields = Fields(
     Field(kObjectId,
      [](Writer& w, const I& item) { w.Int(item.ObjectId()); },
-     [](Reader& r, value v, I& item) { item.ObjectId(r.Int64(v)); }),
+     [](Reader& r, value& v, I& item) { item.ObjectId(r.Int64(v)); }),
     Field(kMediaAsset,
      [](Writer& w, const I& item) { w.String(item.MediaAsset().Id().Value()); },
-     [](Reader& r, value v, I& item) { item.MediaAsset(MediaAssetReference(MediaAssetId(r.Text(v)))); }));
+     [](Reader& r, value& v, I& item) { item.MediaAsset(MediaAssetReference(MediaAssetId(r.Text(v)))); }));
 
 constexpr auto kItemTable = MakeTable(kItemFields<MediaAssetGroupItem>);
 
 constexpr auto kAnglesItemTable = MakeTable(kItemFields<AnglesMediaAssetGroupItem>, Fields(
     Field(kName,
      [](Writer& w, const AnglesMediaAssetGroupItem& item) { w.String(item.Name()); },
-     [](Reader& r, value v, AnglesMediaAssetGroupItem& item) { item.Name(r.Text(v)); })));
+     [](Reader& r, value& v, AnglesMediaAssetGroupItem& item) { item.Name(r.Text(v)); })));
 // clang-format on
 
 void Write(Writer& w, const std::shared_ptr<MediaAssetGroupItem>& item)
@@ -46,7 +46,7 @@ void Write(Writer& w, const std::shared_ptr<MediaAssetGroupItem>& item)
         WriteTagged(w, kKind, kItemKind, kItemTable, *item);
 }
 
-std::shared_ptr<MediaAssetGroupItem> ReadItem(Reader& r, value v)
+std::shared_ptr<MediaAssetGroupItem> ReadItem(Reader& r, value& v)
 {
     std::shared_ptr<MediaAssetGroupItem> result;
     r.Polymorphic(v, kKind, [&](std::string_view kind, Reader::Rest& rest) {
@@ -64,26 +64,26 @@ std::shared_ptr<MediaAssetGroupItem> ReadItem(Reader& r, value v)
 constexpr auto kGroupTable = MakeTable(Fields(
     Field(kObjectId,
      [](Writer& w, const MediaAssetGroup& group) { w.Int(group.ObjectId()); },
-     [](Reader& r, value v, MediaAssetGroup& group) { group.ObjectId(r.Int64(v)); }),
+     [](Reader& r, value& v, MediaAssetGroup& group) { group.ObjectId(r.Int64(v)); }),
     Field(kMetadata,
      [](Writer& w, const MediaAssetGroup& group) { Write(w, group.Metadata()); },
-     [](Reader& r, value v, MediaAssetGroup& group) { Read(r, v, group.Metadata()); }),
+     [](Reader& r, value& v, MediaAssetGroup& group) { Read(r, v, group.Metadata()); }),
     Field(kId,
      [](Writer& w, const MediaAssetGroup& group) { w.String(group.Id().Value()); },
-     [](Reader& r, value v, MediaAssetGroup& group) { group.Id(MediaAssetGroupId(r.Text(v))); }),
+     [](Reader& r, value& v, MediaAssetGroup& group) { group.Id(MediaAssetGroupId(r.Text(v))); }),
     Field(kType,
      [](Writer& w, const MediaAssetGroup& group) { w.String(group.Type()); },
-     [](Reader& r, value v, MediaAssetGroup& group) { group.Type(r.Text(v)); }),
+     [](Reader& r, value& v, MediaAssetGroup& group) { group.Type(r.Text(v)); }),
     Field(kName,
      [](Writer& w, const MediaAssetGroup& group) { w.String(group.Name()); },
-     [](Reader& r, value v, MediaAssetGroup& group) { group.Name(r.Text(v)); }),
+     [](Reader& r, value& v, MediaAssetGroup& group) { group.Name(r.Text(v)); }),
     Field(kItems,
      [](Writer& w, const MediaAssetGroup& group) {
          w.Array(group.Items(), [&](const std::shared_ptr<MediaAssetGroupItem>& item) { Write(w, item); });
      },
-     [](Reader& r, value v, MediaAssetGroup& group) {
+     [](Reader& r, value& v, MediaAssetGroup& group) {
          ReadAppending<std::shared_ptr<MediaAssetGroupItem>>(r, v, group.Items(),
-                                                             [&](value element) { return ReadItem(r, element); });
+                                                             [&](value& element) { return ReadItem(r, element); });
      })));
 // clang-format on
 

@@ -14,53 +14,53 @@ using namespace Members;
 constexpr auto kFileTable = MakeTable(Fields(
     Field(kName,
      [](Writer& w, const FileLocation& file) { w.String(file.Name()); },
-     [](Reader& r, value v, FileLocation& file) { file.Name(r.Text(v)); }),
+     [](Reader& r, value& v, FileLocation& file) { file.Name(r.Text(v)); }),
     Field(kSize,
      [](Writer& w, const FileLocation& file) { w.Int(file.Size()); },
-     [](Reader& r, value v, FileLocation& file) { file.Size(r.Int64(v)); }),
+     [](Reader& r, value& v, FileLocation& file) { file.Size(r.Int64(v)); }),
     Field(kIsReadOnly,
      [](Writer& w, const FileLocation& file) { w.Bool(file.IsReadOnly()); },
-     [](Reader& r, value v, FileLocation& file) { file.IsReadOnly(r.Bool(v)); }),
+     [](Reader& r, value& v, FileLocation& file) { file.IsReadOnly(r.Bool(v)); }),
     Field(kCreationDate,
      [](Writer& w, const FileLocation& file) { w.Int(file.CreationDate()); },
-     [](Reader& r, value v, FileLocation& file) { file.CreationDate(r.Int64(v)); }),
+     [](Reader& r, value& v, FileLocation& file) { file.CreationDate(r.Int64(v)); }),
     Field(kModificationDate,
      [](Writer& w, const FileLocation& file) { w.Int(file.ModificationDate()); },
-     [](Reader& r, value v, FileLocation& file) { file.ModificationDate(r.Int64(v)); }),
+     [](Reader& r, value& v, FileLocation& file) { file.ModificationDate(r.Int64(v)); }),
     Field(kLastAccessDate,
      [](Writer& w, const FileLocation& file) { w.Int(file.LastAccessDate()); },
-     [](Reader& r, value v, FileLocation& file) { file.LastAccessDate(r.Int64(v)); }),
+     [](Reader& r, value& v, FileLocation& file) { file.LastAccessDate(r.Int64(v)); }),
     Field(kUri,
      [](Writer& w, const FileLocation& file) { w.String(file.Uri().Value()); },
-     [](Reader& r, value v, FileLocation& file) { file.Uri(URI(r.Text(v))); })));
+     [](Reader& r, value& v, FileLocation& file) { file.Uri(URI(r.Text(v))); })));
 
 constexpr auto kZanTable = MakeTable(Fields(
     Field(kServerId,
      [](Writer& w, const ZanLocation& zan) { w.Int(zan.ServerId().SerialNumber()); },
-     [](Reader& r, value v, ZanLocation& zan) { zan.ServerId(ZanServerId(r.Int32(v))); }),
+     [](Reader& r, value& v, ZanLocation& zan) { zan.ServerId(ZanServerId(r.Int32(v))); }),
     Field(kSequenceId,
      [](Writer& w, const ZanLocation& zan) { w.String(zan.SequenceId()); },
-     [](Reader& r, value v, ZanLocation& zan) { zan.SequenceId(r.Text(v)); })));
+     [](Reader& r, value& v, ZanLocation& zan) { zan.SequenceId(r.Text(v)); })));
 
 /// The storage server, first in both storage locations' tables.
 template <typename L>
 constexpr auto kStorageFields = Fields(
     Field(kDaxServerId,
      [](Writer& w, const L& location) { w.String(location.ServerId().Value()); },
-     [](Reader& r, value v, L& location) { location.ServerId(Identifier(r.Text(v))); }));
+     [](Reader& r, value& v, L& location) { location.ServerId(Identifier(r.Text(v))); }));
 
 constexpr auto kContentTrackTable = MakeTable(kStorageFields<DaxContentTrackLocation>, Fields(
     Field(kDaxPartitionId,
      [](Writer& w, const DaxContentTrackLocation& track) { w.String(track.PartitionId().Value()); },
-     [](Reader& r, value v, DaxContentTrackLocation& track) { track.PartitionId(Identifier(r.Text(v))); }),
+     [](Reader& r, value& v, DaxContentTrackLocation& track) { track.PartitionId(Identifier(r.Text(v))); }),
     Field(kDaxContentTrackId,
      [](Writer& w, const DaxContentTrackLocation& track) { w.String(track.ContentTrackId().Value()); },
-     [](Reader& r, value v, DaxContentTrackLocation& track) { track.ContentTrackId(Identifier(r.Text(v))); })));
+     [](Reader& r, value& v, DaxContentTrackLocation& track) { track.ContentTrackId(Identifier(r.Text(v))); })));
 
 constexpr auto kProtectTable = MakeTable(kStorageFields<DaxProtectLocation>, Fields(
     Field(kDaxUri,
      [](Writer& w, const DaxProtectLocation& item) { w.String(item.Uri().Value()); },
-     [](Reader& r, value v, DaxProtectLocation& item) { item.Uri(URI(r.Text(v))); })));
+     [](Reader& r, value& v, DaxProtectLocation& item) { item.Uri(URI(r.Text(v))); })));
 // clang-format on
 
 }  // namespace
@@ -79,7 +79,7 @@ void Write(Writer& w, const Location& location)
         w.Fail("expected a file, video-server or storage location, found another class");
 }
 
-std::unique_ptr<Location> ReadLocation(Reader& r, value v)
+std::unique_ptr<Location> ReadLocation(Reader& r, value& v)
 {
     std::unique_ptr<Location> location;
     r.Polymorphic(v, kType, [&](std::string_view type, Reader::Rest& rest) {

@@ -31,7 +31,7 @@ void WriteProfile(Writer& w, const std::string& name, const std::shared_ptr<Meta
     w.Raw(json);
 }
 
-std::shared_ptr<MetadataProfile> ReadProfile(Reader& r, const std::string& name, value v)
+std::shared_ptr<MetadataProfile> ReadProfile(Reader& r, const std::string& name, value& v)
 {
     if (IsOperatorProfileName(name))
         return ReadOperatorProfile(r, v);
@@ -70,9 +70,9 @@ void Write(Writer& w, const MetadataProfileDictionary& dictionary)
     w.EndObject();
 }
 
-void Read(Reader& r, value v, MetadataProfileDictionary& dictionary)
+void Read(Reader& r, value& v, MetadataProfileDictionary& dictionary)
 {
-    r.Dictionary(v, [&](const std::string& name, value member) {
+    r.Dictionary(v, [&](const std::string& name, value& member) {
         if (dictionary.Contains(FullyQualifiedName(name)))
             r.Fail("expected one member of this name, found a second");
         dictionary.Set(ReadProfile(r, name, member));

@@ -122,7 +122,7 @@ void Reader::GiveBack::operator()(Workspace* workspace) const noexcept
         SpareWorkspace().reset(workspace);
 }
 
-std::string_view Reader::RawObject(value v)
+std::string_view Reader::RawObject(value& v)
 {
     auto object = Take(v.get_object(), "an object", &v);
     std::string_view raw = Take(object.raw_json(), "an object");
@@ -131,7 +131,7 @@ std::string_view Reader::RawObject(value v)
     return raw.substr(0, end == std::string_view::npos ? 0 : end + 1);
 }
 
-bool Reader::IsString(value v) { return Take(v.type(), "a JSON value") == simdjson::ondemand::json_type::string; }
+bool Reader::IsString(value& v) { return Take(v.type(), "a JSON value") == simdjson::ondemand::json_type::string; }
 
 namespace {
 constexpr MemberSet<2> kSchemaMembers({Members::kName, Members::kVersion});
@@ -140,14 +140,15 @@ constexpr MemberSet<2> kSchemaMembers({Members::kName, Members::kVersion});
 std::string Reader::SchemaName()
 {
     Rest rest = OpenRoot();
-    const value schema = First(rest, Members::kSchema);
-    const PathSegment segment(path, Members::kSchema);
     std::string name;
-    Object(schema, kSchemaMembers, [&](size_t index, value member) {
-        if (index == 0)
-            name = Text(member);
-        else
-            Int64(member);
+    First(rest, Members::kSchema, [&](value& schema) {
+        const PathSegment segment(path, Members::kSchema);
+        Object(schema, kSchemaMembers, [&](size_t index, value& member) {
+            if (index == 0)
+                name = Text(member);
+            else
+                Int64(member);
+        });
     });
     return name;
 }
@@ -158,11 +159,11 @@ Reader::Rest Reader::OpenRoot()
     return Open(root);
 }
 
-size_t Reader::CheckSchema(value v, const std::string_view* kinds, size_t count)
+size_t Reader::CheckSchema(value& v, const std::string_view* kinds, size_t count)
 {
     const PathSegment segment(path, Members::kSchema);
     size_t kind = 0;
-    Object(v, kSchemaMembers, [&](size_t index, value member) {
+    Object(v, kSchemaMembers, [&](size_t index, value& member) {
         if (index == 0) {
             const std::string_view name = String(member);
             kind = static_cast<size_t>(std::find(kinds, kinds + count, name) - kinds);
@@ -177,15 +178,9 @@ size_t Reader::CheckSchema(value v, const std::string_view* kinds, size_t count)
     return kind;
 }
 
-value Reader::First(Rest& rest, std::string_view name)
+void Reader::NotFirst(std::string_view name, const std::string& found) const
 {
-    if (!(rest.it != rest.end))
-        Fail("expected member \"" + std::string(name) + "\" first, found an empty object");
-    auto field = Take(*rest.it, "a member");
-    const std::string_view key = Take(field.unescaped_key(), "a member name");
-    if (key != name)
-        Fail("expected member \"" + std::string(name) + "\" first, found \"" + std::string(key) + "\"");
-    return field.value();
+    Fail("expected member \"" + std::string(name) + "\" first, found " + found);
 }
 
 size_t Reader::Find(simdjson::ondemand::field& field, const std::string_view* names, const MemberKey* keys, size_t count)

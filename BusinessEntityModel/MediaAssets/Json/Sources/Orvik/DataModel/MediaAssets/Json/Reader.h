@@ -90,7 +90,8 @@ public:
     void Document(const std::array<std::string_view, N>& kinds, Read&& read)
     {
         Rest rest = OpenRoot();
-        const size_t kind = CheckSchema(First(rest, Members::kSchema), kinds.data(), N);
+        size_t kind = 0;
+        First(rest, Members::kSchema, [&](value& schema) { kind = CheckSchema(schema, kinds.data(), N); });
         ++rest.it;
         read(kind, rest);
         const char* after = nullptr;
@@ -102,7 +103,7 @@ public:
     std::string SchemaName();
 
     /// The members of the object `v`, to be read with ReadRest().
-    Rest Open(value v)
+    Rest Open(value& v)
     {
         auto object = Take(v.get_object(), "an object", &v);
         return Rest{Take(object.begin(), "an object"), Take(object.end(), "an object")};
@@ -110,7 +111,7 @@ public:
 
     /// Reads the members of the object `v` by `members`, as ReadRest() does.
     template <size_t N, typename Read>
-    void Object(value v, const MemberSet<N>& members, Read&& read)
+    void Object(value& v, const MemberSet<N>& members, Read&& read)
     {
         Rest rest = Open(v);
         ReadRest(rest, members, read);
@@ -119,7 +120,7 @@ public:
     /// For an object whose class is named by its first member `tag`: reads that member's text
     /// and calls `choose(text, rest)`, which reads the other members with ReadRest().
     template <typename Choose>
-    void Polymorphic(value v, std::string_view tag, Choose&& choose)
+    void Polymorphic(value& v, std::string_view tag, Choose&& choose)
     {
         Rest rest = Open(v);
         const std::string text = Tag(rest, tag);
@@ -130,7 +131,8 @@ public:
     std::string Tag(Rest& rest, std::string_view tag)
     {
         const PathSegment segment(path, tag);
-        std::string text(String(First(rest, tag)));
+        std::string text;
+        First(rest, tag, [&](value& v) { text = String(v); });
         ++rest.it;
         return text;
     }
@@ -144,7 +146,8 @@ public:
         uint64_t seen = 0;
         size_t next = 0;
         for (; rest.it != rest.end; ++rest.it) {
-            auto field = Take(*rest.it, "a member");
+            auto result = *rest.it;
+            simdjson::ondemand::field& field = Checked(result, "a member");
             // Members come in the order written, so the one after the last is tried first.
             const size_t index = next < N && members.keys[next].Matches(field.key().raw())
                 ? next
@@ -166,49 +169,49 @@ public:
     /// Calls `read(element)` for each element of the array `v`, with the path extended by its
     /// index.
     template <typename Read>
-    void Array(value v, Read&& read)
+    void Array(value& v, Read&& read)
     {
         auto array = Take(v.get_array(), "an array", &v);
         size_t index = 0;
         for (auto element : array) {
             const PathSegment segment(path, index++);
-            read(Take(std::move(element), "an array element"));
+            read(Checked(element, "an array element"));
         }
     }
 
     /// Calls `read(name, value)` for each member of the object `v`, whatever its name, with the
     /// path extended by the name.
     template <typename Read>
-    void Dictionary(value v, Read&& read)
+    void Dictionary(value& v, Read&& read)
     {
         auto object = Take(v.get_object(), "an object", &v);
         for (auto member : object) {
-            auto field = Take(std::move(member), "a member");
+            simdjson::ondemand::field& field = Checked(member, "a member");
             const std::string name(Take(field.unescaped_key(), "a member name"));
             const PathSegment segment(path, name);
             read(name, field.value());
         }
     }
 
-    int64_t Int64(value v) { return Take(v.get_int64(), "an integer", &v); }
-    int32_t Int32(value v)
+    int64_t Int64(value& v) { return Take(v.get_int64(), "an integer", &v); }
+    int32_t Int32(value& v)
     {
         const int64_t number = Int64(v);
         if (number < std::numeric_limits<int32_t>::min() || number > std::numeric_limits<int32_t>::max())
             OutOfInt32(number);
         return static_cast<int32_t>(number);
     }
-    bool Bool(value v) { return Take(v.get_bool(), "true or false", &v); }
+    bool Bool(value& v) { return Take(v.get_bool(), "true or false", &v); }
     /// Valid until the next string is read.
-    std::string_view String(value v) { return Take(v.get_string(), "a string", &v); }
-    std::string Text(value v) { return std::string(String(v)); }
+    std::string_view String(value& v) { return Take(v.get_string(), "a string", &v); }
+    std::string Text(value& v) { return std::string(String(v)); }
     /// The text of the object `v` exactly as the document holds it.
-    std::string_view RawObject(value v);
-    bool IsString(value v);
+    std::string_view RawObject(value& v);
+    bool IsString(value& v);
 
     /// Converts the text of `v` with `convert`, refusing a text it does not know.
     template <typename E>
-    E Enumeration(value v, E (*convert)(const std::string&, bool&), std::string_view name)
+    E Enumeration(value& v, E (*convert)(const std::string&, bool&), std::string_view name)
     {
         const std::string_view text = String(v);
         E result{};
@@ -226,7 +229,7 @@ public:
     /// The object of class T written at the JSON pointer that `v` holds; refuses a pointer to
     /// anything else, described to the reader as `what`.
     template <typename T>
-    std::shared_ptr<T> Referenced(value v, std::string_view what)
+    std::shared_ptr<T> Referenced(value& v, std::string_view what)
     {
         const std::string_view pointer = String(v);
         const SharedPlaces::Entry* const found = workspace->places.Find(pointer);
@@ -246,23 +249,44 @@ public:
     template <typename T>
     T Take(simdjson::simdjson_result<T>&& result, std::string_view expected, value* v = nullptr)
     {
-        T out{};
-        const simdjson::error_code error = std::move(result).get(out);
-        if (error != simdjson::SUCCESS)
-            Fail(error, expected, v);
-        return out;
+        if (result.error() != simdjson::SUCCESS)
+            Fail(result.error(), expected, v);
+        return std::move(result).value_unsafe();
+    }
+
+    /// The value that `result` holds, in place. A value of simdjson is written part by part and
+    /// then read whole when it is copied, which stalls the processor until the parts are stored;
+    /// the readers therefore pass values by reference, from where simdjson put them.
+    template <typename T>
+    T& Checked(simdjson::simdjson_result<T>& result, std::string_view expected)
+    {
+        if (result.error() != simdjson::SUCCESS)
+            Fail(result.error(), expected, nullptr);
+        return result.value_unsafe();
     }
 
 private:
     [[noreturn]] void Fail(simdjson::error_code error, std::string_view expected, value* v) const;
     [[noreturn]] void OutOfInt32(int64_t number) const;
     /// The index among the `count` names at `kinds` of the name in the "schema" object `v`.
-    size_t CheckSchema(value v, const std::string_view* kinds, size_t count);
+    size_t CheckSchema(value& v, const std::string_view* kinds, size_t count);
     /// The members of the top-level object.
     Rest OpenRoot();
-    /// The value of the first member of `rest`, which must be named `name`; the caller moves past
-    /// it once the value is read.
-    value First(Rest& rest, std::string_view name);
+    /// Calls `read(value)` with the value of the first member of `rest`, which must be named
+    /// `name`; the caller moves past it.
+    template <typename Read>
+    void First(Rest& rest, std::string_view name, Read&& read)
+    {
+        if (!(rest.it != rest.end))
+            NotFirst(name, "an empty object");
+        auto result = *rest.it;
+        simdjson::ondemand::field& field = Checked(result, "a member");
+        const std::string_view key = Take(field.unescaped_key(), "a member name");
+        if (key != name)
+            NotFirst(name, "\"" + std::string(key) + "\"");
+        read(field.value());
+    }
+    [[noreturn]] void NotFirst(std::string_view name, const std::string& found) const;
     /// The index among `names` (whose keys are `keys`) of the member `field`; refuses a name that
     /// is not among them.
     size_t Find(simdjson::ondemand::field& field, const std::string_view* names, const MemberKey* keys, size_t count);

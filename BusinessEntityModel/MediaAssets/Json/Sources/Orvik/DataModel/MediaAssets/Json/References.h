@@ -37,7 +37,7 @@ struct HeldObject<Stream> {
     {
         w.Shared(stream.get(), [&] { detail::Write(w, *stream); });
     }
-    static std::shared_ptr<Stream> Read(Reader& r, value v)
+    static std::shared_ptr<Stream> Read(Reader& r, value& v)
     {
         if (r.IsString(v))
             return r.Referenced<Stream>(v, "a stream");
@@ -52,7 +52,7 @@ struct HeldObject<Stream> {
 template <>
 struct HeldObject<MediaResource> {
     static void Write(Writer& w, const std::shared_ptr<const MediaResource>& resource) { detail::Write(w, *resource); }
-    static std::shared_ptr<MediaResource> Read(Reader& r, value v)
+    static std::shared_ptr<MediaResource> Read(Reader& r, value& v)
     {
         auto resource = std::make_shared<MediaResource>();
         detail::Read(r, v, *resource);
@@ -72,10 +72,10 @@ template <typename T>
 constexpr auto kReferenceTable = MakeTable(Fields(
     Field(Members::kId,
      [](Writer& w, const SharedReference<T>& reference) { w.String(reference.Id().Value()); },
-     [](Reader& r, value v, ReferenceParts<T>& parts) { parts.id = r.Text(v); }),
+     [](Reader& r, value& v, ReferenceParts<T>& parts) { parts.id = r.Text(v); }),
     Field(Members::kPointer,
      [](Writer& w, const SharedReference<T>& reference) { HeldObject<T>::Write(w, reference.Pointer()); },
-     [](Reader& r, value v, ReferenceParts<T>& parts) { parts.object = HeldObject<T>::Read(r, v); },
+     [](Reader& r, value& v, ReferenceParts<T>& parts) { parts.object = HeldObject<T>::Read(r, v); },
      [](const SharedReference<T>& reference) { return reference.Pointer() != nullptr; })));
 // clang-format on
 
@@ -86,7 +86,7 @@ void WriteReference(Writer& w, const SharedReference<T>& reference)
 }
 
 template <typename T>
-SharedReference<T> ReadReference(Reader& r, value v)
+SharedReference<T> ReadReference(Reader& r, value& v)
 {
     ReferenceParts<T> parts;
     ReadObject(r, v, kReferenceTable<T>, parts);
