@@ -63,16 +63,6 @@ void WriteRun(rapidjson::StringBuffer& out, const char* begin, size_t size)
 
 }  // namespace
 
-void RunWriter::Plain(std::string_view text)
-{
-    Prefix(rapidjson::kStringType);
-    char* p = os_->Push(text.size() + 2);
-    p[0] = '"';
-    std::memcpy(p + 1, text.data(), text.size());
-    p[text.size() + 1] = '"';
-    EndValue(true);
-}
-
 bool RunWriter::Text(std::string_view text)
 {
     size_t first = 0;

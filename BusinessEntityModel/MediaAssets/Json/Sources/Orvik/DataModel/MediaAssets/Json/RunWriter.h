@@ -8,6 +8,7 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include <cstring>
 #include <string_view>
 
 namespace Orvik::DataModel::MediaAssets::Json::detail {
@@ -17,7 +18,16 @@ public:
     explicit RunWriter(rapidjson::StringBuffer& buffer) : Writer(buffer) {}
 
     /// A member name or string holding no quote, backslash, control character or non-ASCII byte.
-    void Plain(std::string_view text);
+    /// Inline, so that a member name known while compiling is copied without a call.
+    void Plain(std::string_view text)
+    {
+        Prefix(rapidjson::kStringType);
+        char* p = os_->Push(text.size() + 2);
+        p[0] = '"';
+        std::memcpy(p + 1, text.data(), text.size());
+        p[text.size() + 1] = '"';
+        EndValue(true);
+    }
 
     /// A member name or string from the model; false, with nothing written, unless it is UTF-8.
     bool Text(std::string_view text);
