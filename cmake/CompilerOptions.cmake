@@ -9,9 +9,7 @@ function(orvik_set_warnings target)
 endfunction()
 
 # One of the project's shared libraries: target <target>, alias Orvik::<export name>, versioned
-# with the project (SONAME from the major version), with the project's warnings. A library's calls
-# to its own functions go straight to them and may be inlined, not through the procedure linkage
-# table: no program is expected to replace one of the library's functions with its own.
+# with the project (SONAME from the major version), with the project's warnings.
 function(orvik_add_shared_library target exportName)
     add_library(${target} SHARED ${ARGN})
     add_library(Orvik::${exportName} ALIAS ${target})
@@ -19,8 +17,6 @@ function(orvik_add_shared_library target exportName)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
         EXPORT_NAME ${exportName})
-    target_compile_options(${target} PRIVATE -fno-semantic-interposition)
-    target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
     orvik_set_warnings(${target})
 endfunction()
 
