@@ -246,6 +246,8 @@ public:
 
     Path& CurrentPath() { return path; }
 
+    /// The value of `result`, a scalar or an iterator; otherwise fails with what was `expected`
+    /// and, for a value of another type, with what `v` holds.
     template <typename T>
     T Take(simdjson::simdjson_result<T>&& result, std::string_view expected, value* v = nullptr)
     {
@@ -286,6 +288,7 @@ private:
             NotFirst(name, "\"" + std::string(key) + "\"");
         read(field.value());
     }
+    /// Refuses an object whose first member is not `name`, describing what it has as `found`.
     [[noreturn]] void NotFirst(std::string_view name, const std::string& found) const;
     /// The index among `names` (whose keys are `keys`) of the member `field`; refuses a name that
     /// is not among them.
