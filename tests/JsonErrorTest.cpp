@@ -65,6 +65,7 @@ TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
         {"truncated", StreamDocument().substr(0, 200),
          R"((root): expected a JSON document, found malformed JSON (a string without its closing quote))"},
         {"not an object", "[1,2]", R"((root): expected an object, found an array)"},
+        {"empty object", "{}", R"((root): expected member "schema" first, found an empty object)"},
         {"trailing text", StreamDocument() + "{}", R"((root): expected the end of the document, found more text)"},
         {"wrong type", Changed(R"("bitDepth":24,"fourCC":"lpcm"},{)", R"("bitDepth":"24","fourCC":"lpcm"},{)"),
          R"(/essences/0/bitDepth: expected an integer, found a string)"},
