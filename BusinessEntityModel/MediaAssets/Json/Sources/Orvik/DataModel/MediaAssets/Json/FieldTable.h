@@ -8,7 +8,7 @@
 //
 // A table is a tuple of fields, each holding its own lambdas, so that walking it is unrolled
 // while compiling: a field's writer and reader are inlined where the walk reaches them, as a
-// hand-written codec would be, and the reader picks a member's entry by a switch on its index.
+// hand-written codec would be, and the reader picks a member's entry by its index.
 
 #include "Reader.h"
 #include "Writer.h"
