@@ -92,6 +92,8 @@ TEST(JsonBadInput, EachKindIsRefusedWithItsPathAndWhatWasExpected)
          R"(/essences/1/bitRateMode: expected a BitRateMode text, found "CBR")"},
         {"unknown kind", Changed(R"("type":"ZanLocation")", R"("type":"TapeLocation")"),
          R"(/locations/0/type: expected "FileLocation", "ZanLocation", "DaxContentTrackLocation" or "DaxProtectLocation", found "TapeLocation")"},
+        {"unknown essence type", Changed(R"("type":"Audio")", R"("type":"Sound")"),
+         R"(/essences/0/type: expected "Audio", "Data" or "Video", found "Sound")"},
         {"kind not first", Changed(R"({"type":"ZanLocation","serverId":120,)", R"({"serverId":120,"type":"ZanLocation",)"),
          R"(/locations/0/type: expected member "type" first, found "serverId")"},
         {"integer out of 32 bits",
